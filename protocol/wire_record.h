@@ -1,0 +1,11 @@
+#ifndef PROTOCOL_WIRE_RECORD_H
+#define PROTOCOL_WIRE_RECORD_H
+
+#include <bit>
+
+/// A record as it stands on a link: no padding, and readable in place from a byte buffer.
+#define QORIN_WIRE_RECORD __attribute__((packed, may_alias))
+
+static_assert(std::endian::native == std::endian::little, "records travel in the byte order of x86-64");
+
+#endif
