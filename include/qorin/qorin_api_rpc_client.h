@@ -1,0 +1,17 @@
+/**
+ * @file qorin_api_rpc_client.h
+ * The whole interface of the client library.
+ */
+#ifndef QORIN_API_RPC_CLIENT_H
+#define QORIN_API_RPC_CLIENT_H
+
+#include "qorin/catalogue.h"
+#include "qorin/cbox.h"
+#include "qorin/enumerations.h"
+#include "qorin/event.h"
+#include "qorin/event_codes.h"
+#include "qorin/log.h"
+#include "qorin/result.h"
+#include "qorin/system.h"
+
+#endif

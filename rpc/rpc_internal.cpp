@@ -1,0 +1,182 @@
+#include "rpc/rpc_internal.h"
+
+#include <array>
+#include <atomic>
+#include <chrono>
+#include <map>
+#include <utility>
+
+#include "api/api_log_print.h"
+#include "api/qorin_enum_to_string.h"
+#include "api/system_control_check.h"
+#include "qorin/catalogue.h"
+#include "rpc/qorin_api_rpc_event.h"
+#include "rpc/qorin_rpc_client.h"
+#include "savrent/cc/immortal.h"
+#include "savrent/cc/os_util.h"
+#include "savrent/cc/tcp_client.h"
+#include "savrent/cc/thread_help.h"
+
+namespace qorin_api_rpc
+{
+namespace
+{
+using namespace std::chrono_literals;
+using savrent::cc::tcp_client;
+
+constexpr unsigned int connection_core = 3;
+constexpr auto link_pause = 100ms;
+
+savrent::cc::immortal<std::map<unsigned int, std::shared_ptr<qorin_rpc_client>>> g_cbox_map;
+std::atomic<unsigned int> g_cbox_id = 0;
+std::atomic<unsigned int> g_cur_cbox_id = 0;
+
+/**
+ * Ends all connections when the process ends, so that no receive thread runs callbacks or waits for a silent control
+ * box after that.
+ *
+ * Made by the first connection, hence destroyed before all that the application made earlier.
+ */
+struct registry_end
+{
+    ~registry_end()
+    {
+        for (const auto& [id, client] : *g_cbox_map)
+            client->end_links();
+        g_cbox_map->clear();
+    }
+};
+
+struct connection_links
+{
+    std::shared_ptr<tcp_client> command = std::make_shared<tcp_client>();
+    std::shared_ptr<tcp_client> data = std::make_shared<tcp_client>();
+    std::shared_ptr<tcp_client> event = std::make_shared<tcp_client>();
+};
+
+bool connect_link(tcp_client& link, const char* purpose, const char* address, unsigned short port)
+{
+    QORIN_API_LOG_PRINT(QORIN_LOG_TYPE_INFO, "waiting for connection for %s tcp...\n", purpose);
+    if (!link.connect_to_server("", address, port))
+        return false;
+    QORIN_API_LOG_PRINT(QORIN_LOG_TYPE_INFO, "the connection for %s tcp has been successfully established.\n", purpose);
+    return true;
+}
+
+/// The control box tells the links apart only by the order in which they arrive.
+bool connect_all(const connection_links& links, const char* address, unsigned short port)
+{
+    if (!connect_link(*links.command, "commanding", address, port))
+        return false;
+    savrent::cc::os_util::sleep_for(link_pause);
+    if (!connect_link(*links.data, "data transfer", address, port))
+        return false;
+    savrent::cc::os_util::sleep_for(link_pause);
+    return connect_link(*links.event, "event uploading", address, port);
+}
+} // namespace
+
+void system_create() {}
+
+void system_destroy() {}
+
+std::shared_ptr<qorin_rpc_client> get_cbox(unsigned int cbox_id)
+{
+    const auto entry = g_cbox_map->find(cbox_id);
+    return entry == g_cbox_map->end() ? nullptr : entry->second;
+}
+
+qorin_rpc_client* find_cbox(unsigned int cbox_id)
+{
+    const auto entry = g_cbox_map->find(cbox_id);
+    return entry == g_cbox_map->end() ? nullptr : entry->second.get();
+}
+
+void set_cur_cbox_id(unsigned int cbox_id)
+{
+    g_cur_cbox_id.store(cbox_id, std::memory_order_relaxed);
+}
+
+unsigned int get_cur_cbox_id()
+{
+    return g_cur_cbox_id.load(std::memory_order_relaxed);
+}
+
+QORIN_API_RESULT qorin_api_internal_rpc_system_create(const char* address, unsigned short port, unsigned int* cbox_id)
+{
+    savrent::cc::thread_help::set_this_thread_affinity(connection_core);
+    savrent::cc::qorin_init_enum_to_string();
+
+    connection_links links;
+    const bool is_connected = connect_all(links, address, port);
+    savrent::cc::os_util::sleep_for(link_pause);
+    const unsigned int id = g_cbox_id.load(std::memory_order_relaxed);
+    if (!is_connected || g_cbox_map->contains(id))
+    {
+        const QORIN_API_RESULT result = QORIN_API_RESULT_ERROR_CBOX_ID_INVALID;
+        QORIN_API_LOG_PRINT(QORIN_LOG_TYPE_ERROR, "%s(): %s(%d)\n", "qorin_api_internal_rpc_system_create",
+                            qorin_system_api_result_string_get(result), static_cast<int>(result));
+        return result;
+    }
+
+    if (cbox_id != nullptr)
+        *cbox_id = id;
+    g_cbox_id.store(id + 1, std::memory_order_relaxed);
+    static registry_end at_process_end;
+    auto event = std::make_shared<qorin_rpc_event>(id);
+    auto client = std::make_shared<qorin_rpc_client>(id, std::move(event), std::move(links.command),
+                                                     std::move(links.data), std::move(links.event));
+    g_cbox_map->emplace(id, std::move(client));
+    return QORIN_API_RESULT_OK;
+}
+} // namespace qorin_api_rpc
+
+QORIN_API_RESULT _qorin_system_control_check_impl()
+{
+    return QORIN_API_RESULT_OK;
+}
+
+bool is_dry_run(unsigned int /*robot_id*/)
+{
+    return false;
+}
+
+QORIN_API_RESULT qorin_internal_robot_recording_angle_start_get(unsigned int /*robot_id*/, unsigned int /*buffer_id*/,
+                                                                unsigned int /*joint*/, double* /*angle*/)
+{
+    return QORIN_API_RESULT_OK;
+}
+
+QORIN_API_RESULT qorin_internal_robot_recording_angle_end_get(unsigned int /*robot_id*/, unsigned int /*buffer_id*/,
+                                                              unsigned int /*joint*/, double* /*angle*/)
+{
+    return QORIN_API_RESULT_OK;
+}
+
+QORIN_API_RESULT qorin_internal_robot_recording_angle_start_from_file_get(unsigned int /*robot_id*/,
+                                                                          const char* /*file*/, unsigned int /*joint*/,
+                                                                          double* /*angle*/)
+{
+    return QORIN_API_RESULT_OK;
+}
+
+QORIN_API_RESULT qorin_internal_robot_recording_angle_end_from_file_get(unsigned int /*robot_id*/, const char* /*file*/,
+                                                                        unsigned int /*joint*/, double* /*angle*/)
+{
+    return QORIN_API_RESULT_OK;
+}
+
+void* qorin_internal_get_motion_command(int /*command_id*/, QORIN_API_RESULT& /*result*/)
+{
+    return nullptr;
+}
+
+QORIN_API_RESULT qorin_internal_robot_motion_command_pre_check(int /*command_id*/)
+{
+    return QORIN_API_RESULT_OK;
+}
+
+QORIN_API_RESULT qorin_internal_robot_motion_command_is_runnable(int /*command_id*/)
+{
+    return QORIN_API_RESULT_OK;
+}

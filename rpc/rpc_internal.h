@@ -1,0 +1,52 @@
+#ifndef RPC_RPC_INTERNAL_H
+#define RPC_RPC_INTERNAL_H
+
+#include <memory>
+
+#include "qorin/result.h"
+
+namespace qorin_api_rpc
+{
+class qorin_rpc_client;
+
+/// Hooks at the first connection of a process and at its end; empty.
+void system_create();
+void system_destroy();
+
+/// The connection that is registered under `cbox_id`, or an empty reference. Takes no lock.
+[[nodiscard]] std::shared_ptr<qorin_rpc_client> get_cbox(unsigned int cbox_id);
+
+/// The same without a reference of its own. Entries are never removed, so the pointer stays valid.
+[[nodiscard]] qorin_rpc_client* find_cbox(unsigned int cbox_id);
+
+/// Selects the control box of the local getters, for all threads.
+void set_cur_cbox_id(unsigned int cbox_id);
+[[nodiscard]] unsigned int get_cur_cbox_id();
+
+/**
+ * Makes the three links to a control box and registers the connection.
+ *
+ * @param cbox_id  output, may be null; untouched on failure.
+ * @return QORIN_API_RESULT_OK, or QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when a link cannot be made.
+ */
+[[nodiscard]] QORIN_API_RESULT qorin_api_internal_rpc_system_create(const char* address, unsigned short port,
+                                                                    unsigned int* cbox_id);
+} // namespace qorin_api_rpc
+
+/**
+ * What the sources that are shared with the control software ask for, and what a client has no more to say about.
+ */
+[[nodiscard]] bool is_dry_run(unsigned int robot_id);
+QORIN_API_RESULT qorin_internal_robot_recording_angle_start_get(unsigned int robot_id, unsigned int buffer_id,
+                                                                unsigned int joint, double* angle);
+QORIN_API_RESULT qorin_internal_robot_recording_angle_end_get(unsigned int robot_id, unsigned int buffer_id,
+                                                              unsigned int joint, double* angle);
+QORIN_API_RESULT qorin_internal_robot_recording_angle_start_from_file_get(unsigned int robot_id, const char* file,
+                                                                          unsigned int joint, double* angle);
+QORIN_API_RESULT qorin_internal_robot_recording_angle_end_from_file_get(unsigned int robot_id, const char* file,
+                                                                        unsigned int joint, double* angle);
+[[nodiscard]] void* qorin_internal_get_motion_command(int command_id, QORIN_API_RESULT& result);
+QORIN_API_RESULT qorin_internal_robot_motion_command_pre_check(int command_id);
+QORIN_API_RESULT qorin_internal_robot_motion_command_is_runnable(int command_id);
+
+#endif
