@@ -38,7 +38,7 @@ void QORIN_API_LOG_FUNC_CALL(const char* name, const Texts&... texts)
     if (qorin_internal_get_func_call_count() != 1)
         return;
     std::string record = qorin_api::call_record_begin(name);
-    const char* separator = "";
+    [[maybe_unused]] const char* separator = "";
     ((record += separator, record += texts, separator = ", "), ...);
     record += ");\n";
     qorin_api::write_call_record_text(record);

@@ -57,8 +57,8 @@ QORIN_API QORIN_API_RESULT qorin_system_api_result_description_all_xml_save(cons
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param path     as for qorin_system_api_result_description_all_xml_save().
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected, and then nothing is
- *         written.
+ * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected, and then nothing
+ * is written.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_system_api_result_description_all_xml_save(unsigned int cbox_id, const char* path);
 

@@ -1,0 +1,20 @@
+# Sourced by the scripts beside it: names each step, and stops at the first one that fails and says which.
+set -Eeuo pipefail
+script=$(basename "$0")
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+
+current_step=start
+trap 'echo "$script: failed in step: $current_step" >&2' ERR
+
+step() {
+    current_step=$1
+    echo "== $1"
+}
+
+# Configures and builds a preset: all of it, or the targets that are named.
+build_preset() {
+    local preset=$1 output
+    shift
+    output=$(cmake --preset "$preset" 2>&1) || { echo "$output" >&2; return 1; }
+    output=$(cmake --build --preset "$preset" ${*:+--target "$@"} 2>&1) || { echo "$output" >&2; return 1; }
+}

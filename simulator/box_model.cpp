@@ -1,0 +1,91 @@
+#include "simulator/box_model.h"
+
+#include <utility>
+
+namespace cbox_simulator
+{
+box_model::box_model(std::string version_text, double control_cycle_us)
+    : version_text_(std::move(version_text)), control_cycle_us_(control_cycle_us)
+{
+}
+
+QORIN_API_RESULT box_model::create_system(client_id client, const created_system& system)
+{
+    // A further application starts with its own creation, whoever has the control: what stands is only reported.
+    if (system_)
+        return system_->model == system.model ? QORIN_API_RESULT_WARNING_SYSTEM_ALREADY_CREATED
+                                              : QORIN_API_RESULT_WARNING_CBOX_NAME_DIFFERENT;
+    if (held_by_another(client))
+        return QORIN_API_RESULT_ERROR_YOU_DONT_HAVE_THE_CONTROL;
+    system_ = system;
+    cbox_.set_mobile_base_present(system.model == QORIN_CBOX_MODEL_3GEN_AMR);
+    cbox_.set_ecat_connection_state(QORIN_ECAT_CONN_STATE_CONNECTED);
+    notify(QORIN_EVENT_SUBGRP_NOTIFICATION_SYSTEM_INITIALIZED);
+    return QORIN_API_RESULT_OK;
+}
+
+QORIN_API_RESULT box_model::destroy_system(client_id client)
+{
+    if (held_by_another(client))
+        return QORIN_API_RESULT_ERROR_YOU_DONT_HAVE_THE_CONTROL;
+    if (!system_)
+        return QORIN_API_RESULT_OK;
+    system_.reset();
+    cbox_.set_mobile_base_present(false);
+    cbox_.set_ecat_connection_state(QORIN_ECAT_CONN_STATE_DISCONNECTED);
+    return QORIN_API_RESULT_OK;
+}
+
+QORIN_API_RESULT box_model::reset_system(client_id client)
+{
+    // An idle box has no error state to leave; only the right to reset is checked.
+    return holds_control(client) ? QORIN_API_RESULT_OK : QORIN_API_RESULT_ERROR_YOU_DONT_HAVE_THE_CONTROL;
+}
+
+QORIN_API_RESULT box_model::take_control(client_id client)
+{
+    if (held_by_another(client))
+        return QORIN_API_RESULT_ERROR_CONTROL_TAKE_FAILURE;
+    // The name says the opposite of what the code tells: "already have control".
+    if (holds_control(client))
+        return QORIN_API_RESULT_WARNING_YOU_DONT_HAVE_THE_CONTROL;
+    control_owner_ = client;
+    notify(QORIN_EVENT_SUBGRP_NOTIFICATION_CONTROL_TAKE, client);
+    return QORIN_API_RESULT_OK;
+}
+
+QORIN_API_RESULT box_model::release_control(client_id client)
+{
+    if (held_by_another(client))
+        return QORIN_API_RESULT_ERROR_YOU_DONT_HAVE_THE_CONTROL;
+    if (!control_owner_)
+        return QORIN_API_RESULT_WARNING_YOU_ALREADY_RELEASED_THE_CONTROL;
+    control_owner_.reset();
+    notify(QORIN_EVENT_SUBGRP_NOTIFICATION_CONTROL_RELEASE, client);
+    return QORIN_API_RESULT_OK;
+}
+
+QORIN_API_RESULT box_model::request_exit(client_id client)
+{
+    if (held_by_another(client))
+        return QORIN_API_RESULT_ERROR_YOU_DONT_HAVE_THE_CONTROL;
+    if (!std::exchange(exit_requested_, true))
+        notify(QORIN_EVENT_SUBGRP_NOTIFICATION_CONTROL_SW_EXIT);
+    return QORIN_API_RESULT_OK;
+}
+
+bool box_model::forget_client(client_id client)
+{
+    return holds_control(client) && release_control(client) == QORIN_API_RESULT_OK;
+}
+
+bool box_model::held_by_another(client_id client) const
+{
+    return control_owner_ && *control_owner_ != client;
+}
+
+void box_model::notify(QORIN_EVENT_SUBGRP subgroup, client_id sender)
+{
+    events_.post(QORIN_EVENT_GRP_NOTIFICATION, subgroup, static_cast<std::uint32_t>(sender));
+}
+} // namespace cbox_simulator

@@ -1,0 +1,79 @@
+#ifndef SIMULATOR_BOX_MODEL_H
+#define SIMULATOR_BOX_MODEL_H
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "qorin/enumerations.h"
+#include "qorin/result.h"
+#include "simulator/cbox_state.h"
+#include "simulator/event_outbox.h"
+
+namespace cbox_simulator
+{
+/// Numbers clients from 1 in the order of their first link. Never reused within a box's life.
+using client_id = std::uint64_t;
+
+/// The control software's system, as a client had it made.
+struct created_system
+{
+    QORIN_CBOX_MODEL model = QORIN_CBOX_MODEL_NONE;
+    std::uint32_t robot_capacity = 0;
+};
+
+/**
+ * What the simulated control box is at this moment: state, and the operations that commands perform on it.
+ *
+ * Knows nothing of links or frames: what is worth an event is left in the outbox. Owned by the control box and touched
+ * on its io thread only.
+ */
+class box_model
+{
+public:
+    box_model(std::string version_text, double control_cycle_us);
+    box_model(const box_model&) = delete;
+    box_model& operator=(const box_model&) = delete;
+
+    [[nodiscard]] const std::string& version_text() const { return version_text_; }
+    [[nodiscard]] double control_cycle_us() const { return control_cycle_us_; }
+    [[nodiscard]] const std::optional<created_system>& system() const { return system_; }
+    [[nodiscard]] const std::optional<client_id>& control_owner() const { return control_owner_; }
+    [[nodiscard]] bool exit_requested() const { return exit_requested_; }
+    [[nodiscard]] const cbox_state& cbox() const { return cbox_; }
+    [[nodiscard]] cbox_state& cbox() { return cbox_; }
+    [[nodiscard]] event_outbox& events() { return events_; }
+
+    /// Needs no control, as it comes before the first take; yet nobody may do it under another client's hands.
+    /// The EtherCAT network comes up with the system and goes down with it.
+    QORIN_API_RESULT create_system(client_id client, const created_system& system);
+    /// Clients release before they destroy, so that control is not needed here either.
+    QORIN_API_RESULT destroy_system(client_id client);
+    QORIN_API_RESULT reset_system(client_id client);
+
+    /// Who has the control changes with an event, whose sender id is the client.
+    QORIN_API_RESULT take_control(client_id client);
+    QORIN_API_RESULT release_control(client_id client);
+    [[nodiscard]] bool holds_control(client_id client) const { return control_owner_ == client; }
+
+    /// The flag is acted upon by whoever serves the links, once the reply is on its way.
+    QORIN_API_RESULT request_exit(client_id client);
+
+    /// To be told of every client that is gone, so that what it held becomes free. True when that was the control.
+    bool forget_client(client_id client);
+
+private:
+    [[nodiscard]] bool held_by_another(client_id client) const;
+    void notify(QORIN_EVENT_SUBGRP subgroup, client_id sender = 0);
+
+    std::string version_text_;
+    double control_cycle_us_;
+    std::optional<created_system> system_;
+    std::optional<client_id> control_owner_;
+    bool exit_requested_ = false;
+    event_outbox events_;
+    cbox_state cbox_{events_};
+};
+} // namespace cbox_simulator
+
+#endif

@@ -1,0 +1,49 @@
+#include "simulator/command_table.h"
+
+#include <iterator>
+#include <stdexcept>
+
+#include <fmt/format.h>
+
+#include "simulator/cbox_test_commands.h"
+#include "simulator/system_commands.h"
+
+namespace cbox_simulator
+{
+void command_table::add(std::span<const command_row> rows)
+{
+    for (const auto& row : rows)
+    {
+        if (!handlers_.emplace(row.wire_name, row.handler).second)
+            throw std::logic_error(fmt::format("command {} stands twice in the table", row.wire_name));
+    }
+}
+
+command_handler command_table::find(std::string_view wire_name) const
+{
+    const auto found = handlers_.find(wire_name);
+    return found == handlers_.end() ? nullptr : found->second;
+}
+
+command_table make_command_table()
+{
+    command_table table;
+    table.add(system_commands());
+    table.add(cbox_test_commands());
+    return table;
+}
+
+std::string printable(std::string_view text)
+{
+    std::string line = "\"";
+    for (const char character : text)
+    {
+        const auto byte = static_cast<unsigned char>(character);
+        if (byte < 0x20 || byte > 0x7E || character == '"' || character == '\\')
+            fmt::format_to(std::back_inserter(line), "\\x{:02X}", byte);
+        else
+            line += character;
+    }
+    return line + '"';
+}
+} // namespace cbox_simulator
