@@ -155,6 +155,8 @@ void scripted_cbox::run(std::size_t links)
         setsockopt(descriptor, IPPROTO_TCP, TCP_NODELAY, &no_delay, sizeof(no_delay));
         std::lock_guard lock(mutex_);
         links_.push_back(descriptor);
+        if (ending_)
+            shutdown(descriptor, SHUT_RDWR);
         changed_.notify_all();
     }
     {

@@ -1,11 +1,11 @@
 #include "savrent/cc/os_util.h"
 
-#include <regex>
 #include <string>
 
 #include <gtest/gtest.h>
 
 #include "savrent/cc/encrypt.h"
+#include "tests/support/text_form.h"
 
 namespace
 {
@@ -35,13 +35,12 @@ TEST(os_util, takes_only_a_leading_dot_for_relative)
 
 TEST(os_util, writes_the_time_with_three_digits_of_milliseconds)
 {
-    const std::regex form(R"(\d{4}\.\d\d\.\d\d,\d\dh\d\dm\d\ds\d{3})");
     std::string previous;
     for (int i = 0; i < 30; ++i)
     {
         std::string now;
         os_util::get_current_time_string(now);
-        EXPECT_TRUE(std::regex_match(now, form)) << now;
+        EXPECT_TRUE(test_support::has_form(now, test_support::time_form)) << now;
         EXPECT_LE(previous, now);
         previous = now;
         os_util::sleep_for(std::chrono::milliseconds(50));
