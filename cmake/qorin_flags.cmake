@@ -1,6 +1,6 @@
 # Warnings, sanitizers and include paths that every target of this project has.
 add_library(qorin_flags INTERFACE)
-target_compile_options(qorin_flags INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow)
+target_compile_options(qorin_flags INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -fno-semantic-interposition)
 if(QORIN_WARNINGS_AS_ERRORS)
   target_compile_options(qorin_flags INTERFACE -Werror)
 endif()

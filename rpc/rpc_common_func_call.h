@@ -11,8 +11,8 @@
 #include "protocol/rpc_record.h"
 #include "qorin/catalogue.h"
 #include "qorin/result.h"
+#include "rpc/cbox_registry.h"
 #include "rpc/qorin_rpc_client.h"
-#include "rpc/rpc_internal.h"
 #include "rpc/rpc_param_slot.h"
 #include "rpc/rpc_record_store.h"
 

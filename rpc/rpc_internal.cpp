@@ -3,13 +3,13 @@
 #include <array>
 #include <atomic>
 #include <chrono>
-#include <map>
 #include <utility>
 
 #include "api/api_log_print.h"
 #include "api/qorin_enum_to_string.h"
 #include "api/system_control_check.h"
 #include "qorin/catalogue.h"
+#include "rpc/cbox_registry.h"
 #include "rpc/qorin_api_rpc_event.h"
 #include "rpc/qorin_rpc_client.h"
 #include "savrent/cc/immortal.h"
@@ -19,6 +19,9 @@
 
 namespace qorin_api_rpc
 {
+savrent::cc::immortal<cbox_map> g_cbox_map;
+std::atomic<unsigned int> g_cur_cbox_id = 0;
+
 namespace
 {
 using namespace std::chrono_literals;
@@ -27,9 +30,7 @@ using savrent::cc::tcp_client;
 constexpr unsigned int connection_core = 3;
 constexpr auto link_pause = 100ms;
 
-savrent::cc::immortal<std::map<unsigned int, std::shared_ptr<qorin_rpc_client>>> g_cbox_map;
 std::atomic<unsigned int> g_cbox_id = 0;
-std::atomic<unsigned int> g_cur_cbox_id = 0;
 
 /**
  * Ends all connections when the process ends, so that no receive thread runs callbacks or waits for a silent control
@@ -79,28 +80,6 @@ bool connect_all(const connection_links& links, const char* address, unsigned sh
 void system_create() {}
 
 void system_destroy() {}
-
-std::shared_ptr<qorin_rpc_client> get_cbox(unsigned int cbox_id)
-{
-    const auto entry = g_cbox_map->find(cbox_id);
-    return entry == g_cbox_map->end() ? nullptr : entry->second;
-}
-
-qorin_rpc_client* find_cbox(unsigned int cbox_id)
-{
-    const auto entry = g_cbox_map->find(cbox_id);
-    return entry == g_cbox_map->end() ? nullptr : entry->second.get();
-}
-
-void set_cur_cbox_id(unsigned int cbox_id)
-{
-    g_cur_cbox_id.store(cbox_id, std::memory_order_relaxed);
-}
-
-unsigned int get_cur_cbox_id()
-{
-    return g_cur_cbox_id.load(std::memory_order_relaxed);
-}
 
 QORIN_API_RESULT qorin_api_internal_rpc_system_create(const char* address, unsigned short port, unsigned int* cbox_id)
 {

@@ -1,27 +1,13 @@
 #ifndef RPC_RPC_INTERNAL_H
 #define RPC_RPC_INTERNAL_H
 
-#include <memory>
-
 #include "qorin/result.h"
 
 namespace qorin_api_rpc
 {
-class qorin_rpc_client;
-
 /// Hooks at the first connection of a process and at its end; empty.
 void system_create();
 void system_destroy();
-
-/// The connection that is registered under `cbox_id`, or an empty reference. Takes no lock.
-[[nodiscard]] std::shared_ptr<qorin_rpc_client> get_cbox(unsigned int cbox_id);
-
-/// The same without a reference of its own. Entries are never removed, so the pointer stays valid.
-[[nodiscard]] qorin_rpc_client* find_cbox(unsigned int cbox_id);
-
-/// Selects the control box of the local getters, for all threads.
-void set_cur_cbox_id(unsigned int cbox_id);
-[[nodiscard]] unsigned int get_cur_cbox_id();
 
 /**
  * Makes the three links to a control box and registers the connection.

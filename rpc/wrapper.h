@@ -13,8 +13,8 @@
 #include "api/api_call_log_param_to_string.h"
 #include "protocol/rpc_record.h"
 #include "rpc/api_call_recursive_lock.h"
+#include "rpc/cbox_registry.h"
 #include "rpc/rpc_common_func_call.h"
-#include "rpc/rpc_internal.h"
 
 /// The two shapes that almost all exported functions have.
 namespace qorin_api_rpc

@@ -13,7 +13,8 @@ namespace
 std::atomic<long> g_allocations = 0;
 } // namespace
 
-void* operator new(std::size_t size)
+// Not inlined: a compiler that sees both sides takes free() for the wrong partner of new.
+__attribute__((noinline)) void* operator new(std::size_t size)
 {
     ++g_allocations;
     if (void* memory = std::malloc(size))
@@ -21,12 +22,12 @@ void* operator new(std::size_t size)
     throw std::bad_alloc();
 }
 
-void operator delete(void* memory) noexcept
+__attribute__((noinline)) void operator delete(void* memory) noexcept
 {
     std::free(memory);
 }
 
-void operator delete(void* memory, std::size_t /*size*/) noexcept
+__attribute__((noinline)) void operator delete(void* memory, std::size_t /*size*/) noexcept
 {
     std::free(memory);
 }

@@ -5,6 +5,7 @@
 #include "api/internal_shared_data.h"
 #include "qorin/cbox.h"
 #include "qorin/system.h"
+#include "rpc/cbox_registry.h"
 #include "rpc/qorin_rpc_client.h"
 #include "rpc/wrapper.h"
 #include "tests/rpc/connected_box.h"

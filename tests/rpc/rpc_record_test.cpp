@@ -173,10 +173,11 @@ TEST(rpc_record, a_block_is_read_128_bytes_far_whatever_the_text_or_array)
     connected_box box;
     box.always_reply(reply_with(QORIN_API_RESULT_OK));
     char memory[300];
-    std::memset(memory, 'm', sizeof(memory));
+    std::memset(memory, 'm', sizeof(memory) - 1);
     std::memcpy(memory, "ab", 3);
     command<"qorin_x">(box.id, static_cast<const char*>(memory));
-    std::memset(memory, 'z', sizeof(memory));
+    std::memset(memory, 'z', sizeof(memory) - 1);
+    memory[sizeof(memory) - 1] = '\0';
     command<"qorin_x">(box.id, static_cast<const char*>(memory + 1));
 
     const protocol::request_record behind_terminator = box.request(0);
