@@ -69,14 +69,24 @@ std::string call_time_record()
 {
     std::string now;
     savrent::cc::os_util::get_current_time_string(now);
-    return "/* [now]:" + now + ", ";
+    std::string record;
+    record.reserve(48);
+    record += "/* [now]:";
+    record += now;
+    record += ", ";
+    return record;
 }
 
 std::string call_stamp_record()
 {
     const auto now = std::chrono::system_clock::now().time_since_epoch();
     const auto stamp = std::chrono::duration_cast<std::chrono::milliseconds>(now).count();
-    return "[timestamp]:" + std::to_string(stamp) + " */ ";
+    std::string record;
+    record.reserve(48);
+    record += "[timestamp]:";
+    record += std::to_string(stamp);
+    record += " */ ";
+    return record;
 }
 
 std::string call_record_begin(const char* name)

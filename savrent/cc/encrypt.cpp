@@ -18,7 +18,13 @@ void encrypt(const char* in, char* out, unsigned long length)
 
 void encrypt_piece(const char* in, char* out, unsigned long length, unsigned long position)
 {
+    // Every byte of both logs passes here: the place in the key is counted, since a division a byte would be the dearest
+    // part of a call line.
+    unsigned long place = position % key.size();
     for (unsigned long i = 0; i < length; ++i)
-        out[i] = static_cast<char>(key[(position + i) % key.size()] ^ in[i]);
+    {
+        out[i] = static_cast<char>(key[place] ^ in[i]);
+        place = place + 1 == key.size() ? 0 : place + 1;
+    }
 }
 } // namespace savrent::cc
