@@ -58,7 +58,7 @@ std::string own_address()
 
 unsigned int connect_library(const std::string& directory, const std::string& address)
 {
-    std::ofstream(directory + "/config.ini") << "[client]\nlog_save_path=" << directory << "/log\n";
+    std::ofstream(directory + "/config.ini") << "[client]\nlog_save_path=" << directory << "/log\nlog_print_out=off\n";
     setenv("SAVRENT_V3", directory.c_str(), 1);
     unsigned int cbox_id = 0;
     if (qorin_rpc_system_cbox_connect((directory + "/config.ini").c_str(), address.c_str(), &cbox_id) !=
