@@ -7,11 +7,17 @@
  *
  * Callbacks run on the event thread of their control box, one at a time and in three passes, each in order of
  * registration: those for all events, those for the event's group, those for its subgroup. A callback that is
- * registered in several places is called several times for one event. The dispatcher is locked while callbacks run, so
- * a callback must not call a function of this header for its own control box: it would block for ever (only
- * qorin_rpc_ts_event_echo() is allowed). A callback may send commands, which wait for the call lock like any other, so
- * it must not wait for a thread that is inside a function of this header; and it must return soon, because no further
- * event comes through meanwhile. Events end without notice when the event link or the data link is lost.
+ * registered in several places is called several times for one event. Events end without notice when the event link or
+ * the data link is lost.
+ *
+ * The dispatcher is locked while callbacks run. So a callback
+ *   - must return soon: no further event comes through, and waits and registrations of other threads stand still;
+ *   - must not call a function of this header for its own control box, except qorin_rpc_ts_event_echo(): it would block
+ *     for ever;
+ *   - may send commands, which wait for the call lock like any other. But while a callback does, no other thread may
+ *     register or remove callbacks of the same control box: a registration holds the call lock while it waits for the
+ *     dispatcher, and the two would wait for each other for ever. Register before the events begin, or let the callback
+ *     hand its work to a thread of the application.
  *
  * A registration with an unknown cbox_id is no error: it answers QORIN_API_RESULT_OK and registers nothing. What a
  * subgroup callback gets depends on the subgroup alone; waits compare group and subgroup together.
