@@ -17,6 +17,7 @@
 namespace
 {
 using six = std::array<double, 6>;
+using text = std::array<char, 32>;
 constexpr std::size_t record_of[] = {2608, 2608 + 4728};
 
 /// A box whose commands are called as a link would, with a system for two robots in the control of client 1.
@@ -126,6 +127,15 @@ void expect_consistent(const commanded_box& box, std::size_t robot)
     }
 }
 
+/// A field by its place in the record, and what it holds for either robot.
+template <class Value>
+struct field_row
+{
+    std::size_t offset;
+    Value first;
+    Value second;
+};
+
 TEST(robot, creation_needs_control_a_system_a_free_place_and_an_arm)
 {
     auto request = raw::request("qorin_robot_create", 401510);
@@ -188,54 +198,41 @@ TEST(robot, the_frame_tells_each_robot_in_its_record)
     commanded_box box;
     box.create(401510);
     box.create(401517);
-    struct word_row
-    {
-        std::size_t offset;
-        std::uint32_t robot[2];
-    };
-    const word_row words[] = {
-        {4, {6, 6}},
-        {8, {0, 1}},
-        {12, {401510, 401517}},
-        {16, {403108, 403108}},
-        {20, {400101, 400101}},
-        {76, {400900, 400900}},
-        {112, {0, 0}},
-        {760 + 20, {400101, 400101}},
-        {1896, {0, 6}},
-        {1896 + 472 * 5, {5, 11}},
-    };
-    struct real_row
-    {
-        std::size_t offset;
-        double robot[2];
-    };
-    const real_row reals[] = {
-        {120, {1, 1}},
-        {272 + 40, {0, 0}},
-        {1816 + 8, {250, 250}},
-        {1896 + 944 + 16, {90, 0}},
-        {1896 + 944 + 56, {90, 0}},
-        {1896 + 944 + 96, {155, 190}},
-        {1896 + 944 + 104, {-155, -80}},
-        {1896 + 944 + 112, {220, 215}},
-        {1896 + 944 + 120, {1100, 850}},
-        {1896 + 944 + 136, {155, 190}},
-        {1896 + 944 + 144, {-155, -80}},
-        {1896 + 440, {218, 437}},
-        {1896 + 448 + 472, {-90, 90}},
-        {1896 + 456 + 472, {241, 671}},
-        {1896 + 464, {-90, 90}},
-    };
+    const field_row<std::uint32_t> words[] = {{4, 6, 6},
+                                              {8, 0, 1},
+                                              {12, 401510, 401517},
+                                              {16, 403108, 403108},
+                                              {20, 400101, 400101},
+                                              {76, 400900, 400900},
+                                              {760 + 20, 400101, 400101},
+                                              {1896, 0, 6},
+                                              {1896 + 472 * 5, 5, 11}};
+    constexpr std::size_t joint_3 = 1896 + 472 * 2;
+    const field_row<double> reals[] = {{120, 1, 1},
+                                       {1816 + 8, 250, 250},
+                                       {joint_3 + 16, 90, 0},
+                                       {joint_3 + 56, 90, 0},
+                                       {joint_3 + 96, 155, 190},
+                                       {joint_3 + 104, -155, -80},
+                                       {joint_3 + 112, 220, 215},
+                                       {joint_3 + 120, 1100, 850},
+                                       {joint_3 + 136, 155, 190},
+                                       {joint_3 + 144, -155, -80},
+                                       {joint_3 + 448, -90, 0},
+                                       {1896 + 440, 218, 437},
+                                       {1896 + 464, -90, 90},
+                                       {1896 + 472 + 456, 241, 671}};
     for (std::size_t id = 0; id < 2; ++id)
     {
         for (const auto& row : words)
-            EXPECT_EQ(box.field<std::uint32_t>(record_of[id] + row.offset), row.robot[id]) << id << ": " << row.offset;
+            EXPECT_EQ(box.field<std::uint32_t>(record_of[id] + row.offset), id == 0 ? row.first : row.second)
+                << id << ": " << row.offset;
         for (const auto& row : reals)
-            EXPECT_EQ(box.field<double>(record_of[id] + row.offset), row.robot[id]) << id << ": " << row.offset;
-        EXPECT_STREQ((box.field<std::array<char, 32>>(20940 + 216 * id).data()), "SIM.TOOL");
+            EXPECT_EQ(box.field<double>(record_of[id] + row.offset), id == 0 ? row.first : row.second)
+                << id << ": " << row.offset;
+        EXPECT_STREQ(box.field<text>(20940 + 216 * id).data(), "SIM.TOOL");
         EXPECT_EQ(box.field<std::uint32_t>(20940 + 216 * id + 184), 400800u);
-        EXPECT_STREQ((box.field<std::array<char, 36>>(16492 + 376 * (6 * id + 5)).data()), "SIM.DRIVE.v1.0");
+        EXPECT_STREQ(box.field<text>(16492 + 376 * (6 * id + 5)).data(), "SIM.DRIVE.v1.0");
         EXPECT_EQ(box.field<double>(16492 + 376 * (6 * id + 5) + 36), 48.0);
     }
 }
@@ -274,7 +271,7 @@ TEST(robot, what_cannot_be_is_refused_and_changes_nothing)
     EXPECT_EQ(robots.set_joint_angles(1, {}) + 0u, 102000u);
     EXPECT_EQ(robots.set_tcp_from_flange(0, {0, 0, nan, 0, 0, 0}) + 0u, 102007u);
     EXPECT_EQ(robots.set_servo(0, QORIN_SWITCH{}) + 0u, 102007u);
-    EXPECT_EQ(box.field<decltype(before)>(0), before);
+    EXPECT_EQ((box.field<std::array<char, 29728>>(0)), before);
 }
 
 TEST(robot, a_new_table_takes_the_place_of_the_arms_own)
@@ -306,12 +303,15 @@ TEST(robot, a_new_table_takes_the_place_of_the_arms_own)
             std::memcpy(request.double_block[array], table[array], sizeof table[array]);
         EXPECT_EQ(box.call(request, 2).result, 100003u);
         EXPECT_EQ(box.call(request).result, row.result);
-        // Offsets of the four values in a joint's record, in the order of the arrays.
+        // A joint's record holds its four values in another order than the arrays have.
         const std::size_t fields[] = {448, 440, 456, 464};
-        for (std::size_t i = 0; row.result == 100000 && i < 24; ++i)
-            EXPECT_EQ(box.field<double>(record_of[0] + 1896 + 472 * (i % 6) + fields[i / 6]), table[i / 6][i % 6]);
-        if (row.result != 100000)
-            EXPECT_EQ(box.field<double>(record_of[0] + 1896 + 440), 218.0);
+        const auto& own = savrent::kinematics::arm_models()[0].table;
+        const six* const factory[] = {&own.theta, &own.d, &own.a, &own.alpha};
+        for (std::size_t i = 0; i < 24; ++i)
+        {
+            EXPECT_EQ(box.field<double>(record_of[0] + 1896 + 472 * (i % 6) + fields[i / 6]),
+                      row.result == 100000 ? table[i / 6][i % 6] : factory[i / 6]->at(i % 6));
+        }
         expect_consistent(box, 0);
     }
 }
