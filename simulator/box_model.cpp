@@ -30,6 +30,7 @@ QORIN_API_RESULT box_model::destroy_system(client_id client)
         return QORIN_API_RESULT_ERROR_YOU_DONT_HAVE_THE_CONTROL;
     if (!system_)
         return QORIN_API_RESULT_OK;
+    robots_.destroy_all();
     system_.reset();
     cbox_.set_mobile_base_present(false);
     cbox_.set_ecat_connection_state(QORIN_ECAT_CONN_STATE_DISCONNECTED);
@@ -40,6 +41,12 @@ QORIN_API_RESULT box_model::reset_system(client_id client)
 {
     // An idle box has no error state to leave; only the right to reset is checked.
     return holds_control(client) ? QORIN_API_RESULT_OK : QORIN_API_RESULT_ERROR_YOU_DONT_HAVE_THE_CONTROL;
+}
+
+QORIN_API_RESULT box_model::create_robot(QORIN_ROBOT_MODEL model, std::uint32_t& id)
+{
+    return system_ ? robots_.create(model, system_->robot_capacity, id)
+                   : QORIN_API_RESULT_ERROR_SYSTEM_CONTROL_SW_NOT_INIT;
 }
 
 QORIN_API_RESULT box_model::take_control(client_id client)

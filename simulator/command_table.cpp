@@ -6,6 +6,7 @@
 #include <fmt/format.h>
 
 #include "simulator/cbox_test_commands.h"
+#include "simulator/robot_commands.h"
 #include "simulator/system_commands.h"
 
 namespace cbox_simulator
@@ -29,6 +30,7 @@ command_table make_command_table()
 {
     command_table table;
     table.add(system_commands());
+    table.add(robot_commands());
     table.add(cbox_test_commands());
     return table;
 }

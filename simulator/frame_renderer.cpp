@@ -4,6 +4,7 @@
 
 #include "simulator/cbox_frame.h"
 #include "simulator/frame_text.h"
+#include "simulator/robot_frame.h"
 
 namespace cbox_simulator
 {
@@ -19,7 +20,6 @@ void render_system(const box_model& model, shared_data_t& frame)
     const bool created = model.system().has_value();
     put_text(frame.control_sw_version, model.version_text());
     frame.cbox_name = created ? model.system()->model : QORIN_CBOX_MODEL_NONE;
-    frame.robot_count = 0;
     frame.control_cycle_us = model.control_cycle_us();
 }
 
@@ -58,5 +58,6 @@ void render_frame(const box_model& model, shared_data_t& frame)
     render_cbox(model.cbox(), frame);
     render_idle_safety(frame);
     render_idle_peripherals(frame);
+    render_robots(model.robots(), frame);
 }
 } // namespace cbox_simulator

@@ -1,0 +1,17 @@
+#ifndef SIMULATOR_POSE_H
+#define SIMULATOR_POSE_H
+
+#include <array>
+
+namespace cbox_simulator
+{
+/// x, y, z in millimetres, then rx, ry, rz in degrees: the rotation Rz(rz) * Ry(ry) * Rx(rx).
+using pose = std::array<double, 6>;
+
+/// The pose in the base frame of what has the pose `local` in the frame `outer`.
+[[nodiscard]] pose placed(const pose& outer, const pose& local);
+
+[[nodiscard]] bool is_finite(const std::array<double, 6>& values);
+} // namespace cbox_simulator
+
+#endif
