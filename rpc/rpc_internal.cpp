@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "api/api_log_print.h"
+#include "api/internal_robot_state.h"
 #include "api/qorin_enum_to_string.h"
 #include "api/system_control_check.h"
 #include "qorin/catalogue.h"
