@@ -8,21 +8,6 @@
 
 namespace qorin_api
 {
-namespace
-{
-using savrent::ctrl::algorithm::robot_kinematics;
-
-/**
- * Closes the modules when the process ends. The registry itself stays, for threads that still ask then.
- *
- * Made with the library, hence destroyed after the connections, whose event threads may run callbacks that ask.
- */
-struct modules_end
-{
-    ~modules_end() { api_call_robot_internal_data::get_instance()->destroy_all(); }
-} at_process_end;
-} // namespace
-
 std::shared_ptr<api_call_robot_internal_data> api_call_robot_internal_data::get_instance()
 {
     static savrent::cc::singleton<api_call_robot_internal_data> p_instance{"api_call_robot_internal_data"};
@@ -39,7 +24,7 @@ QORIN_API_RESULT api_call_robot_internal_data::create(unsigned int id, QORIN_ROB
     if (robots_.contains(id))
         return QORIN_API_RESULT_OK;
     const std::string path = savrent::cc::system_config_value("client.kinematics_path");
-    auto kinematics = std::make_unique<robot_kinematics>(model, path);
+    auto kinematics = std::make_unique<savrent::ctrl::algorithm::robot_kinematics>(model, path);
     if (!kinematics->is_loaded())
         return QORIN_API_RESULT_ROBOT_CLIENT_KINEMATICS_MODULE_LOAD_FAILURE;
     _api_robot_data record;

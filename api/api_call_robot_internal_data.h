@@ -41,7 +41,8 @@ struct _api_robot_data
 class api_call_robot_internal_data
 {
 public:
-    /// Made on first use, by any thread. Its records end with the process, which closes their modules.
+    /// Made on first use, by any thread. Not destroyed when the process ends, for threads that still ask then; the
+    /// layer above has destroy_all() called.
     static std::shared_ptr<api_call_robot_internal_data> get_instance();
 
     api_call_robot_internal_data() = default;

@@ -2,8 +2,10 @@
 #include "qorin/robot.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 #include "api/api_call_robot_internal_data.h"
+#include "rpc/rpc_internal.h"
 #include "rpc/wrapper.h"
 #include "savrent/cc/os_util.h"
 
@@ -41,13 +43,28 @@ void take_dh_table(const protocol::shared_data_t& frame, unsigned int robot_id, 
     record.kinematics->set_dh_parameter(table[0], table[1], table[2], table[3]);
 }
 
+/**
+ * Closes the modules of the robots that are left when the process ends.
+ *
+ * Connections end first: callbacks on their threads may ask for a robot.
+ */
+void end_robots()
+{
+    qorin_api_rpc::end_connections();
+    api_call_robot_internal_data::get_instance()->destroy_all();
+}
+
 /// The robot's place on this side, once it stands on the control box. Nothing is undone there when this fails.
 QORIN_API_RESULT make_record(unsigned int cbox_id, unsigned int robot_id, QORIN_ROBOT_MODEL model)
 {
     const auto registry = api_call_robot_internal_data::get_instance();
+    const bool is_new = registry->get(robot_id) == nullptr;
     const QORIN_API_RESULT result = registry->create(robot_id, model);
     if (result != QORIN_API_RESULT_OK)
         return result;
+    // Told after a module is mapped, so that it is closed before its own static objects are destroyed.
+    if (is_new)
+        std::atexit(end_robots);
     savrent::cc::os_util::sleep_for(frame_pause);
     take_dh_table(*qorin_api_rpc::get_cbox(cbox_id)->get_shared_data(), robot_id, *registry->get(robot_id));
     return QORIN_API_RESULT_OK;

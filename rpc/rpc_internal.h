@@ -9,6 +9,10 @@ namespace qorin_api_rpc
 void system_create();
 void system_destroy();
 
+/// Ends the links of all connections and waits for their threads. For the end of the process; a further call does
+/// nothing.
+void end_connections();
+
 /**
  * Makes the three links to a control box and registers the connection.
  *
