@@ -30,7 +30,8 @@ void take_dh_table(const protocol::shared_data_t& frame, unsigned int robot_id, 
     if (robot_id < std::size(frame.robots))
     {
         const robot_data_t& robot = frame.robots[robot_id];
-        const unsigned int joints = std::min<unsigned int>(robot.number_of_joints, joint_limit);
+        const unsigned int told = robot.number_of_joints; // read once: the data thread may write meanwhile
+        const unsigned int joints = std::min(told, joint_limit);
         for (unsigned int i = 0; i < joints; ++i)
         {
             const joint_data_t& joint = robot.joint[i];

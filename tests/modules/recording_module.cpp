@@ -1,4 +1,6 @@
 // A kinematics module that records what the client asks of it. Built with a model list and a joint count.
+#include <cstdio>
+#include <cstdlib>
 #include <string>
 
 #include "kinematics/savrent_kinematics.h"
@@ -15,6 +17,8 @@ double table[4][joints] = {};
 void record(const std::string& call)
 {
     calls += call + ";";
+    if (std::getenv("RECORDING_MODULE_PRINTS") != nullptr)
+        std::fprintf(stderr, "%s\n", call.c_str());
 }
 
 std::string list(const double* values, int count)

@@ -1,5 +1,6 @@
 #include "qorin/robot.h"
 
+#include <cstdlib>
 #include <cstring>
 
 #include <gtest/gtest.h>
@@ -103,7 +104,7 @@ TEST_F(robot, creation_asks_the_box_then_opens_the_module_and_hands_it_the_table
     EXPECT_EQ(99, request.block[1][0]);
 }
 
-TEST_F(robot, creation_waits_for_a_frame_and_leaves_joints_that_do_not_exist_zero)
+TEST_F(robot, creation_gives_a_frame_ten_milliseconds_and_leaves_joints_that_do_not_exist_zero)
 {
     scripted_reply reply = reply_with_id(QORIN_API_RESULT_OK, 0);
     const auto begin = std::chrono::steady_clock::now();
@@ -178,6 +179,18 @@ TEST_F(robot, destruction_closes_the_module_when_the_box_agrees)
     EXPECT_STREQ("qorin_robot_destroy", reinterpret_cast<const char*>(box.request(1).wire_name));
     EXPECT_EQ(1u, box.request(1).value[0]);
     EXPECT_EQ("qorin_rpc_robot_destroy(0, 1);\n", place.calls().at(1));
+}
+
+TEST_F(robot, the_end_of_the_process_closes_modules_while_their_static_objects_live)
+{
+    testing::GTEST_FLAG(death_test_style) = "threadsafe";
+    const auto end_with_a_robot = [&]
+    {
+        setenv("RECORDING_MODULE_PRINTS", "1", 1);
+        (void)create(box, reply_with_id(QORIN_API_RESULT_OK, 0));
+        std::exit(0);
+    };
+    EXPECT_EXIT(end_with_a_robot(), testing::ExitedWithCode(0), "set_dh 1 .*\ndestroy 1\n");
 }
 
 TEST_F(robot, a_table_goes_to_the_box_and_then_to_the_module)
