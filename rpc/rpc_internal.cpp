@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "api/api_log_print.h"
+#include "api/internal_robot_state.h"
 #include "api/qorin_enum_to_string.h"
 #include "api/system_control_check.h"
 #include "qorin/catalogue.h"
@@ -40,12 +41,7 @@ std::atomic<unsigned int> g_cbox_id = 0;
  */
 struct registry_end
 {
-    ~registry_end()
-    {
-        for (const auto& [id, client] : *g_cbox_map)
-            client->end_links();
-        g_cbox_map->clear();
-    }
+    ~registry_end() { end_connections(); }
 };
 
 struct connection_links
@@ -80,6 +76,13 @@ bool connect_all(const connection_links& links, const char* address, unsigned sh
 void system_create() {}
 
 void system_destroy() {}
+
+void end_connections()
+{
+    for (const auto& [id, client] : *g_cbox_map)
+        client->end_links();
+    g_cbox_map->clear();
+}
 
 QORIN_API_RESULT qorin_api_internal_rpc_system_create(const char* address, unsigned short port, unsigned int* cbox_id)
 {

@@ -9,6 +9,10 @@ namespace qorin_api_rpc
 void system_create();
 void system_destroy();
 
+/// Ends the links of all connections and waits for their threads. For the end of the process; a further call does
+/// nothing.
+void end_connections();
+
 /**
  * Makes the three links to a control box and registers the connection.
  *
@@ -22,15 +26,6 @@ void system_destroy();
 /**
  * What the sources that are shared with the control software ask for, and what a client has no more to say about.
  */
-[[nodiscard]] bool is_dry_run(unsigned int robot_id);
-QORIN_API_RESULT qorin_internal_robot_recording_angle_start_get(unsigned int robot_id, unsigned int buffer_id,
-                                                                unsigned int joint, double* angle);
-QORIN_API_RESULT qorin_internal_robot_recording_angle_end_get(unsigned int robot_id, unsigned int buffer_id,
-                                                              unsigned int joint, double* angle);
-QORIN_API_RESULT qorin_internal_robot_recording_angle_start_from_file_get(unsigned int robot_id, const char* file,
-                                                                          unsigned int joint, double* angle);
-QORIN_API_RESULT qorin_internal_robot_recording_angle_end_from_file_get(unsigned int robot_id, const char* file,
-                                                                        unsigned int joint, double* angle);
 [[nodiscard]] void* qorin_internal_get_motion_command(int command_id, QORIN_API_RESULT& result);
 QORIN_API_RESULT qorin_internal_robot_motion_command_pre_check(int command_id);
 QORIN_API_RESULT qorin_internal_robot_motion_command_is_runnable(int command_id);

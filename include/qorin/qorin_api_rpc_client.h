@@ -12,6 +12,7 @@
 #include "qorin/event_codes.h"
 #include "qorin/log.h"
 #include "qorin/result.h"
+#include "qorin/robot.h"
 #include "qorin/system.h"
 
 #endif
