@@ -15,7 +15,11 @@ using qorin_api::read_joint;
 using qorin_api::read_robot;
 using qorin_api::read_robot_with_joint;
 
-constexpr double degrees_per_second_of_rpm = 6.0; ///< one revolution per minute
+/// Revolutions per minute of a value that counts degrees per second.
+double rpm(double degrees_per_second)
+{
+    return degrees_per_second / 6.0;
+}
 } // namespace
 
 QORIN_API_RESULT qorin_robot_model_name_get(unsigned int robot_id, QORIN_ROBOT_MODEL* model)
@@ -194,26 +198,20 @@ QORIN_API_RESULT qorin_robot_joint_torque_actual_get(unsigned int robot_id, unsi
 
 QORIN_API_RESULT qorin_robot_joint_target_velocity_get(unsigned int robot_id, unsigned int joint, double* velocity)
 {
-    return read_robot_with_joint(robot_id, joint,
-                                 [&](const robot_data_t& robot)
-                                 { *velocity = element_of(robot, &robot_data_t::joint_target_velocity, joint); });
+    return read_robot_with_joint(robot_id, joint, &robot_data_t::joint_target_velocity, velocity);
 }
 
 QORIN_API_RESULT qorin_robot_joint_target_velocity_rpm_get(unsigned int robot_id, unsigned int joint, double* velocity)
 {
-    return read_robot_with_joint(
-        robot_id, joint,
-        [&](const robot_data_t& robot)
-        { *velocity = element_of(robot, &robot_data_t::joint_target_velocity, joint) / degrees_per_second_of_rpm; });
+    return read_robot_with_joint(robot_id, joint,
+                                 [&](const robot_data_t& robot)
+                                 { *velocity = rpm(element_of(robot, &robot_data_t::joint_target_velocity, joint)); });
 }
 
 QORIN_API_RESULT qorin_robot_joint_target_acceleration_get(unsigned int robot_id, unsigned int joint,
                                                            double* acceleration)
 {
-    return read_robot_with_joint(robot_id, joint,
-                                 [&](const robot_data_t& robot) {
-                                     *acceleration = element_of(robot, &robot_data_t::joint_target_acceleration, joint);
-                                 });
+    return read_robot_with_joint(robot_id, joint, &robot_data_t::joint_target_acceleration, acceleration);
 }
 
 QORIN_API_RESULT qorin_robot_joint_target_acceleration_rpm_get(unsigned int robot_id, unsigned int joint,
@@ -222,8 +220,7 @@ QORIN_API_RESULT qorin_robot_joint_target_acceleration_rpm_get(unsigned int robo
     return read_robot_with_joint(robot_id, joint,
                                  [&](const robot_data_t& robot) {
                                      *acceleration =
-                                         element_of(robot, &robot_data_t::joint_target_acceleration, joint) /
-                                         degrees_per_second_of_rpm;
+                                         rpm(element_of(robot, &robot_data_t::joint_target_acceleration, joint));
                                  });
 }
 

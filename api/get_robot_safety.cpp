@@ -10,7 +10,6 @@ namespace
 using protocol::joint_data_t;
 using protocol::robot_data_t;
 using protocol::shared_data_t;
-using qorin_api::element_of;
 using qorin_api::read_frame_of_robot;
 using qorin_api::read_joint;
 using qorin_api::read_robot;
@@ -156,11 +155,7 @@ QORIN_API_RESULT qorin_robot_collision_detection_threshold_tcp_force_get(unsigne
 QORIN_API_RESULT qorin_robot_collision_detection_threshold_joint_torque_get(unsigned int robot_id, unsigned int joint,
                                                                             double* torque)
 {
-    return read_robot_with_joint(robot_id, joint,
-                                 [&](const robot_data_t& robot) {
-                                     *torque =
-                                         element_of(robot, &robot_data_t::collision_threshold_joint_torque, joint);
-                                 });
+    return read_robot_with_joint(robot_id, joint, &robot_data_t::collision_threshold_joint_torque, torque);
 }
 
 QORIN_API_RESULT qorin_robot_collision_mitigation_switch_get(unsigned int robot_id, QORIN_SWITCH* mitigation_switch)

@@ -108,6 +108,15 @@ QORIN_API_RESULT read_robot_with_joint(unsigned int robot_id, unsigned int joint
     return robot == nullptr ? QORIN_API_RESULT_ERROR_CBOX_ID_INVALID : run(std::forward<Read>(read), *robot);
 }
 
+/// One element of a field that has an element per joint.
+template <class Element, std::size_t Size>
+QORIN_API_RESULT read_robot_with_joint(unsigned int robot_id, unsigned int joint,
+                                       Element (protocol::robot_data_t::*field)[Size], Element* output)
+{
+    return read_robot_with_joint(
+        robot_id, joint, [&](const protocol::robot_data_t& robot) { *output = element_of(robot, field, joint); });
+}
+
 /// Joint record of a robot. By bytes: the joint is not bounded, and one that is too large reads what lies further on.
 [[nodiscard]] inline const protocol::joint_data_t& joint_of(const protocol::robot_data_t& robot, std::size_t joint)
 {
