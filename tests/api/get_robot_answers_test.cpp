@@ -126,7 +126,7 @@ TEST_F(robot_getters, tool_inputs_and_outputs)
     make_robots_present();
     put(tool_at(1) + 96, 0b10101U);
     put(tool_at(1) + 128, 0b01010U);
-    put(tool_at(1) + 144, 0b01010U);
+    put(tool_at(1) + 144, 0b01001U);
     for (unsigned int channel = 0; channel < 4; ++channel)
     {
         unsigned int value = 2;
