@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "api/internal_shared_data.h"
+#include "api/io_word.h"
 
 namespace
 {
@@ -12,6 +13,8 @@ using protocol::io_module_data_t;
 using protocol::record_at;
 using protocol::safety_module_data_t;
 using protocol::shared_data_t;
+using qorin_api::analog_mode;
+using qorin_api::bit;
 
 constexpr unsigned int amr_emergency_buttons = 4;
 constexpr unsigned int digital_channels = 16;
@@ -37,16 +40,6 @@ QORIN_API_RESULT read_cbox(Read&& read)
 const io_module_data_t& io_module(const shared_data_t& frame, unsigned int module)
 {
     return record_at<io_module_data_t>(frame, module);
-}
-
-unsigned int bit(unsigned int word, unsigned int number)
-{
-    return word >> number & 1;
-}
-
-QORIN_ANALOG_IO_MODE analog_mode(unsigned int is_current)
-{
-    return is_current != 0 ? QORIN_ANALOG_IO_MODE_CURRENT : QORIN_ANALOG_IO_MODE_VOLTAGE;
 }
 
 const char* safety_module_version(unsigned int index)

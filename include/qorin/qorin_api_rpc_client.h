@@ -13,6 +13,11 @@
 #include "qorin/log.h"
 #include "qorin/result.h"
 #include "qorin/robot.h"
+#include "qorin/robot_external_move_status.h"
+#include "qorin/robot_force_status.h"
+#include "qorin/robot_safety_status.h"
+#include "qorin/robot_status.h"
+#include "qorin/robot_tool_status.h"
 #include "qorin/system.h"
 
 #endif
