@@ -34,7 +34,7 @@ public:
     };
 
     /** Corners by the ends of the three axes: the face of low z, then that of high z. */
-    enum CornerEnum
+    enum CornerEnum : unsigned int
     {
         MIN_X_MIN_Y_MIN_Z = 0,
         MIN_X_MAX_Y_MIN_Z = 1,

@@ -73,7 +73,11 @@ public:
 
     /** @name Circles and arcs */
     /** @{ */
-    /** Whether the path bends by less than one degree, or turns straight back. Points that coincide are in line. */
+    /**
+     * Whether the path bends by less than one degree, or turns back within one degree, the bound included.
+     *
+     * Points that coincide are in line.
+     */
     static bool is_straight_line_three_pts(const vector3& p1, const vector3& p2, const vector3& p3);
     /**
      * Centre of the circle through three points.
@@ -120,7 +124,10 @@ public:
     /** @{ */
     /** (to - from) / time. */
     static void calc_linear_velocity(const vector3& from, const vector3& to, double time, vector3& velocity);
-    /** @param velocity Degrees per second about the base's axes; zero for a turn of less than 0.001 degrees. */
+    /**
+     * @param velocity Degrees per second about the base's axes; zero for a turn of at most 0.001 degrees, and
+     *                 also where convert_quaternion_to_rot_vec() gives zero.
+     */
     static void calc_angular_velocity(const quaternion& from, const quaternion& to, double time, vector3& velocity);
     /** @} */
 

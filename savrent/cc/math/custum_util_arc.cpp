@@ -17,7 +17,7 @@ using math::util;
 
 namespace
 {
-/** Bend in degrees below which three points are in line. */
+/** Bend in degrees below which three points are in line, and the deviation up to which a path turns straight back. */
 constexpr double straight_limit = 1.0;
 /** Distance between the two constructions of a centre from which on there is none. */
 constexpr double centre_gap = 0.001;
@@ -100,7 +100,7 @@ bool custum_util::is_straight_line_three_pts(const vector3& p1, const vector3& p
         return true;
     }
     const double bend = first.angleBetween(second).valueDegrees();
-    return bend < straight_limit || 180.0 - bend < straight_limit;
+    return bend < straight_limit || 180.0 - bend <= straight_limit;
 }
 
 bool custum_util::get_outer_circle_center(const vector3& p1, const vector3& p2, const vector3& p3, vector3& centre)

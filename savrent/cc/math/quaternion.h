@@ -31,7 +31,10 @@ public:
 
     static const quaternion ZERO;
     static const quaternion IDENTITY;
-    /** Sines below it count as zero in Exp, Log and the interpolations. */
+    /**
+     * Sines below it count as zero in Exp() and Log(). Slerp() takes quaternions as equal or opposite from an
+     * absolute dot product of 1 minus it on, SlerpExtraSpins() as equal below this half angle in radians.
+     */
     static constexpr double msEpsilon = 0.001;
 
     constexpr quaternion() : w(1.0), x(0.0), y(0.0), z(0.0) {}

@@ -80,6 +80,8 @@ TEST(pose_conversions, report_the_gimbal_lock)
     vector3 euler;
     EXPECT_FALSE(robot::convert_rot_mat_to_euler_angle({0, 0, 0, 0, 0, 0, 1.5, 0, 0}, euler));
     EXPECT_EQ(euler.y, -90.0) << "noise beyond 1 is limited";
+    EXPECT_TRUE(robot::convert_rot_mat_to_euler_angle({0, 0, 0, 0, 0, 0, 0.9999999999985, 0, 0}, euler));
+    EXPECT_FALSE(robot::convert_rot_mat_to_euler_angle({0, 0, 0, 0, 0, 0, 0.9999999999995, 0, 0}, euler));
 }
 
 TEST(axis_angle, keeps_its_behaviour_at_the_edges)

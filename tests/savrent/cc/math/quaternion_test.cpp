@@ -89,6 +89,11 @@ TEST(quaternion, interpolates_the_long_way_unless_told_otherwise)
     EXPECT_TRUE(quaternion::Slerp(0.5, p, q, false).equals({degree(120), vector3::UNIT_Z}, radian(1e-6)));
     EXPECT_TRUE(quaternion::Slerp(0.5, p, q, true).equals({degree(-60), vector3::UNIT_Z}, radian(1e-6)));
     EXPECT_NEAR(quaternion::Slerp(0.3, p * 1.5, p * 1.5).Norm(), 1.0, 1e-15) << "joined straight and normalised";
+    // The dot products are 0.99905 and 0.99897, on either side of the limit.
+    const quaternion near(degree(5.0), vector3::UNIT_Z);
+    const quaternion farther(degree(5.2), vector3::UNIT_Z);
+    EXPECT_TRUE(close(quaternion::Slerp(0.3, p, near), reference(quaternion::nlerp(0.3, p, near))));
+    EXPECT_TRUE(close(quaternion::Slerp(0.3, p, farther), reference(quaternion(degree(1.56), vector3::UNIT_Z))));
     // One extra spin of the quaternion at t = 1 changes its sign and keeps the rotation.
     EXPECT_TRUE(close(quaternion::SlerpExtraSpins(1.0, p, q, 1), reference(-q)));
     EXPECT_EQ(quaternion::SlerpExtraSpins(0.7, p, p, 3), p);
@@ -123,4 +128,8 @@ TEST(quaternion, angles_about_single_axes)
     EXPECT_NEAR(q.getRoll(false).valueDegrees(), 20.0, 1e-12);
     EXPECT_NEAR(q.getYaw(false).valueDegrees(), 30.0, 1e-12);
     EXPECT_NEAR(q.getPitch(false).valueDegrees(), 40.0, 1e-12);
+    // The projected forms see the turned axis along the axis of the turn.
+    EXPECT_NEAR(q.getRoll(true).mRad, std::atan2(q.xAxis().y, q.xAxis().x), 1e-12);
+    EXPECT_NEAR(q.getPitch(true).mRad, std::atan2(q.yAxis().z, q.yAxis().y), 1e-12);
+    EXPECT_NEAR(q.getYaw(true).mRad, std::atan2(q.zAxis().x, q.zAxis().z), 1e-12);
 }

@@ -199,6 +199,10 @@ TEST_F(process_settings, opposite_vectors_turn_about_a_chosen_axis)
     EXPECT_TRUE(close(vector3::UNIT_X.getRotationTo({-1, 0, 0}) * vector3::UNIT_Z, vector3::UNIT_Z));
     EXPECT_TRUE(close(vector3::UNIT_Z.getRotationTo({0, 0, -1}, vector3::UNIT_X) * vector3::UNIT_X, vector3::UNIT_X));
     EXPECT_EQ(vector3::UNIT_Y.getRotationTo({0, 5, 0}), math::quaternion::IDENTITY);
+    // Opposite begins at 1e-6 off in the cosine: 1.4 milliradians turn by PI, 1.5 by what is asked for.
+    const math::quaternion about_y(radian(util::PI), vector3::UNIT_Y);
+    EXPECT_EQ(vector3::UNIT_X.getRotationTo({-1, 0.0014, 0}, vector3::UNIT_Y), about_y);
+    EXPECT_NEAR(vector3::UNIT_X.getRotationTo({-1, 0.0015, 0}, vector3::UNIT_Y).z, 1.0, 1e-6);
     fixed_provider quarter;
     util::SetRandomValueProvider(&quarter);
     // A quarter turn of the tilt axis y about z gives -x, about which z tilts to y.

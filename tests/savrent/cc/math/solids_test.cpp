@@ -121,6 +121,7 @@ TEST(axis_aligned_box, corners_and_transforms_agree)
     {
         EXPECT_EQ(unit_box.getCorner(static_cast<axisAlignedBox::CornerEnum>(k)), corners[k]) << k;
     }
+    EXPECT_EQ(axisAlignedBox(1, 1, 1, 2, 2, 2).getCorner(static_cast<axisAlignedBox::CornerEnum>(8)), vector3::ZERO);
     axisAlignedBox copy = unit_box;
     EXPECT_NE(copy.getAllCorners(), unit_box.getAllCorners()) << "each box owns its corners";
 }
@@ -153,6 +154,7 @@ TEST(ray_hits, planes_and_spheres_at_their_ties)
     EXPECT_EQ(along_x.intersects(sphere({3, 1.1, 0}, 1)), hit(false, 0.0));
     EXPECT_EQ(along_x.intersects(sphere()), hit(true, 0.0));
     EXPECT_EQ(util::intersects(along_x, sphere(), false), hit(true, 1.0)) << "out from inside";
+    EXPECT_EQ(along_x.intersects(sphere({-3, 0, 0}, 1)), hit(true, -2.0)) << "behind, and a hit all the same";
     EXPECT_EQ(along_x * 2.0, vector3(2, 0, 0));
     EXPECT_EQ(ray().getDirection(), vector3::UNIT_Z);
 }
