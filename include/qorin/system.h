@@ -65,7 +65,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_system_cbox_connect(const char* config_path
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param text     text for the control software, which defines its meaning; 128 bytes are read.
  * @param model    model of the control box.
- * @return as every command; the control box answers QORIN_API_RESULT_WARNING_SYSTEM_ALREADY_CREATED when a system stands.
+ * @return as every command; the control box answers QORIN_API_RESULT_WARNING_SYSTEM_ALREADY_CREATED when a system
+ * stands.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_gen_system_create(unsigned int cbox_id, const char* text, QORIN_CBOX_MODEL model);
 

@@ -18,8 +18,8 @@ void encrypt(const char* in, char* out, unsigned long length)
 
 void encrypt_piece(const char* in, char* out, unsigned long length, unsigned long position)
 {
-    // Every byte of both logs passes here: the place in the key is counted, since a division a byte would be the dearest
-    // part of a call line.
+    // Every byte of both logs passes here: the place in the key is counted, since a division a byte would be the
+    // dearest part of a call line.
     unsigned long place = position % key.size();
     for (unsigned long i = 0; i < length; ++i)
     {
