@@ -60,6 +60,16 @@ scripted_cbox::scripted_cbox(const std::string& address, std::size_t links) : li
 
 scripted_cbox::~scripted_cbox()
 {
+    end();
+    for (const int descriptor : links_)
+        close(descriptor);
+    EXPECT_TRUE(replies_.empty()) << replies_.size() << " scripted replies were not asked for";
+}
+
+void scripted_cbox::end()
+{
+    if (!thread_.joinable())
+        return;
     {
         std::lock_guard lock(mutex_);
         ending_ = true;
@@ -70,9 +80,6 @@ scripted_cbox::~scripted_cbox()
     }
     changed_.notify_all();
     thread_.join();
-    for (const int descriptor : links_)
-        close(descriptor);
-    EXPECT_TRUE(replies_.empty()) << replies_.size() << " scripted replies were not asked for";
 }
 
 void scripted_cbox::will_reply(scripted_reply reply)

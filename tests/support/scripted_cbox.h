@@ -50,6 +50,9 @@ public:
     scripted_cbox(const scripted_cbox&) = delete;
     scripted_cbox& operator=(const scripted_cbox&) = delete;
 
+    /// Ends all links and the box's thread, as its destructor does.
+    void end();
+
     /// Answers the next request that has no reply yet; requests wait for as long as there is none.
     void will_reply(scripted_reply reply);
 
