@@ -12,6 +12,8 @@
  *
  * Each getter has a local form without cbox_id, which reads the control box that was asked last, by any thread. So two
  * threads that read different control boxes at the same moment can read each other's.
+ *
+ * "Field" names the place in the status frame that a value comes from.
  */
 #ifndef QORIN_CBOX_H
 #define QORIN_CBOX_H
@@ -25,6 +27,8 @@ QORIN_API_C_BEGIN
 /**
  * State of the EtherCAT master.
  *
+ * Field: master_operational_mode.
+ *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param mode  output: a QORIN_OPERATIONAL_MODE value.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected.
@@ -34,6 +38,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_master_operational_mode_get(unsigned i
 
 /**
  * Model of the control box.
+ *
+ * Field: cbox_name.
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param name  output: a QORIN_CBOX_MODEL value; QORIN_CBOX_MODEL_NONE while no system is created, where the control
@@ -45,6 +51,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_name_get(unsigned int cbox_id, QORIN_C
 /**
  * Emergency button of the control box.
  *
+ * Field: emergency_button_state.
+ *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param state  output: pushed or released.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected.
@@ -53,6 +61,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_emergency_button_state_get(unsigned in
 
 /**
  * Emergency button of a mobile base.
+ *
+ * Field: amr_emergency_button_state[index].
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param index  button, 0 to 3.
@@ -66,6 +76,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_amr_emergency_button_state_get(unsigne
 /**
  * Link state of the EtherCAT master.
  *
+ * Field: ecat_connection_state.
+ *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param state  output: a QORIN_ECAT_CONN_STATE value.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected.
@@ -75,6 +87,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ecat_connection_state_get(unsigned int
 /**
  * Power button of the control box.
  *
+ * Field: power_button_state.
+ *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param state  output: pushed or released.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected.
@@ -83,6 +97,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_power_button_state_get(unsigned int cb
 
 /**
  * A digital input of an I/O module of the control box.
+ *
+ * Field: digital_input of the I/O module, bit channel.
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param module  I/O module, 0 for the first. Not bounded: a module that does not exist reads other state.
@@ -97,6 +113,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_gen_cbox_io_digital_input_get(unsigned int 
 /**
  * A digital input of the control box's first I/O module.
  *
+ * Field: digital_input of the I/O module, bit channel.
+ *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param channel  channel, 0 to 15.
  * @param value  output: 0 or 1.
@@ -108,6 +126,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_io_digital_input_get(unsigned int cbox
 
 /**
  * A digital output of an I/O module of the control box.
+ *
+ * Field: digital_output of the I/O module, bit channel.
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param module  I/O module, 0 for the first. Not bounded: a module that does not exist reads other state.
@@ -122,6 +142,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_gen_cbox_io_digital_output_get(unsigned int
 /**
  * A digital output of the control box's first I/O module.
  *
+ * Field: digital_output of the I/O module, bit channel.
+ *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param channel  channel, 0 to 15.
  * @param value  output: 0 or 1.
@@ -133,6 +155,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_io_digital_output_get(unsigned int cbo
 
 /**
  * An analog input of an I/O module of the control box.
+ *
+ * Field: analog_input[channel] of the I/O module.
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param module  I/O module, 0 for the first. Not bounded: a module that does not exist reads other state.
@@ -147,6 +171,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_gen_cbox_io_analog_input_get(unsigned int c
 /**
  * An analog input of the control box's first I/O module.
  *
+ * Field: analog_input[channel] of the I/O module.
+ *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param channel  channel, 0 to 1.
  * @param value  output: value in volts or milliamperes, by the mode of the channel.
@@ -158,6 +184,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_io_analog_input_get(unsigned int cbox_
 
 /**
  * An analog output of an I/O module of the control box.
+ *
+ * Field: analog_output[channel] of the I/O module.
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param module  I/O module, 0 for the first. Not bounded: a module that does not exist reads other state.
@@ -172,6 +200,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_gen_cbox_io_analog_output_get(unsigned int 
 /**
  * An analog output of the control box's first I/O module.
  *
+ * Field: analog_output[channel] of the I/O module.
+ *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param channel  channel, 0 to 1.
  * @param value  output: value in volts or milliamperes, by the mode of the channel.
@@ -183,6 +213,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_io_analog_output_get(unsigned int cbox
 
 /**
  * Electrical mode of an analog input of an I/O module of the control box.
+ *
+ * Field: analog_mode of the I/O module, bit channel + 2.
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param module  I/O module, 0 for the first. Not bounded: a module that does not exist reads other state.
@@ -200,6 +232,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_gen_cbox_io_analog_input_mode_get(unsigned 
 /**
  * Electrical mode of an analog input of the control box's first I/O module.
  *
+ * Field: analog_mode of the I/O module, bit channel + 2.
+ *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param channel  channel, 0 to 1.
  * @param mode  output: voltage or current.
@@ -214,6 +248,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_io_analog_input_mode_get(unsigned int 
 
 /**
  * Electrical mode of an analog output of an I/O module of the control box.
+ *
+ * Field: analog_mode of the I/O module, bit channel.
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param module  I/O module, 0 for the first. Not bounded: a module that does not exist reads other state.
@@ -232,6 +268,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_gen_cbox_io_analog_output_mode_get(unsigned
 /**
  * Electrical mode of an analog output of the control box's first I/O module.
  *
+ * Field: analog_mode of the I/O module, bit channel.
+ *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param channel  channel, 0 to 1.
  * @param mode  output: voltage or current.
@@ -247,6 +285,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_io_analog_output_mode_get(unsigned int
 /**
  * A redundant digital input of an I/O module of the control box.
  *
+ * Field: redundant_digital_input of the I/O module, bit channel.
+ *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param module  I/O module, 0 for the first. Not bounded: a module that does not exist reads other state.
  * @param channel  channel, 0 to 15.
@@ -260,6 +300,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_gen_cbox_redundant_io_digital_input_get(uns
 /**
  * A redundant digital input of the control box's first I/O module.
  *
+ * Field: redundant_digital_input of the I/O module, bit channel.
+ *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param channel  channel, 0 to 15.
  * @param value  output: 0 or 1.
@@ -271,6 +313,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_redundant_io_digital_input_get(unsigne
 
 /**
  * A redundant digital output of an I/O module of the control box.
+ *
+ * Field: redundant_digital_output of the I/O module, bit channel.
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param module  I/O module, 0 for the first. Not bounded: a module that does not exist reads other state.
@@ -286,6 +330,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_gen_cbox_redundant_io_digital_output_get(un
 /**
  * A redundant digital output of the control box's first I/O module.
  *
+ * Field: redundant_digital_output of the I/O module, bit channel.
+ *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param channel  channel, 0 to 15.
  * @param value  output: 0 or 1.
@@ -297,6 +343,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_redundant_io_digital_output_get(unsign
 
 /**
  * A safety input carried over EtherCAT.
+ *
+ * Field: digital_input of the I/O module, bit by the number of the input.
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param module  I/O module, 0 for the first. Not bounded: a module that does not exist reads other state.
@@ -312,6 +360,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_gen_cbox_fsoe_io_digital_input_get(unsigned
 /**
  * A safety output carried over EtherCAT.
  *
+ * Field: digital_output of the I/O module, bit 0.
+ *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param module  I/O module, 0 for the first. Not bounded: a module that does not exist reads other state.
  * @param output  QORIN_FSOE_MC3_POWER_OUTPUT, the only one.
@@ -326,6 +376,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_gen_cbox_fsoe_io_digital_output_get(unsigne
 /**
  * A redundant digital input of the safety module.
  *
+ * Field: safety_module_redundant_io, bit index + 8.
+ *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param index  input, 0 to 7.
  * @param value  output: 0 or 1.
@@ -339,6 +391,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_safety_module_redundant_io_digital_inp
 /**
  * 48 V supply of the safety module.
  *
+ * Field: safety_module_48v_smps_switch.
+ *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param smps_switch  output: QORIN_SWITCH_ON or QORIN_SWITCH_OFF.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected.
@@ -349,7 +403,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_safety_module_48v_smps_switch_get(unsi
 /**
  * Data received from a low-data EtherCAT device.
  *
- * The device is judged ahead of the size.
+ * The device is judged ahead of the size. Field: rx_data of the device.
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param device  low-data EtherCAT device, 0 to 3.
@@ -365,7 +419,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ecat_low_data_io_rx_data_get(unsigned 
 /**
  * Data sent to a low-data EtherCAT device.
  *
- * The device is judged ahead of the size.
+ * The device is judged ahead of the size. Field: tx_data of the device.
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param device  low-data EtherCAT device, 0 to 3.
@@ -381,7 +435,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ecat_low_data_io_tx_data_get(unsigned 
 /**
  * Data received from an IO-Link wireless port.
  *
- * The port is judged ahead of the size.
+ * The port is judged ahead of the size. Field: rx_data of the port.
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param port  IO-Link wireless port, 0 to 15.
@@ -397,7 +451,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ecat_io_link_wp_rx_data_get(unsigned i
 /**
  * Data sent to an IO-Link wireless port.
  *
- * The port is judged ahead of the size.
+ * The port is judged ahead of the size. Field: tx_data of the port.
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param port  IO-Link wireless port, 0 to 15.
@@ -413,6 +467,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ecat_io_link_wp_tx_data_get(unsigned i
 /**
  * State byte of an IO-Link wireless port.
  *
+ * Field: status of the port.
+ *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param port  IO-Link wireless port, 0 to 15.
  * @param status  output: state byte of the port.
@@ -424,6 +480,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ecat_io_link_wp_status_data_get(unsign
 
 /**
  * Status bits of the IO-Link master.
+ *
+ * Field: io_link_status_bit.
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param device  IO-Link master, 0.
@@ -437,6 +495,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ecat_io_link_status_bit_data_get(unsig
 /**
  * Control bits of the IO-Link master.
  *
+ * Field: io_link_control_bit.
+ *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param device  IO-Link master, 0.
  * @param bits  output: control bits.
@@ -448,6 +508,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ecat_io_link_control_bit_get(unsigned 
 
 /**
  * Input bits of the IO-Link master.
+ *
+ * Field: io_link_input_bit.
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param device  IO-Link master, 0.
@@ -461,6 +523,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ecat_io_link_input_bit_get(unsigned in
 /**
  * Output bits of the IO-Link master.
  *
+ * Field: io_link_output_bit.
+ *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param device  IO-Link master, 0.
  * @param bits  output: output bits.
@@ -473,7 +537,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ecat_io_link_output_bit_get(unsigned i
 /**
  * Data received by the IO-Link master.
  *
- * The device is judged ahead of the size.
+ * The device is judged ahead of the size. Field: io_link_rx_data.
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param device  IO-Link master, 0.
@@ -489,7 +553,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ecat_io_link_rx_data_get(unsigned int 
 /**
  * Data sent by the IO-Link master.
  *
- * The device is judged ahead of the size.
+ * The device is judged ahead of the size. Field: io_link_tx_data.
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param device  IO-Link master, 0.
