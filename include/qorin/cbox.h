@@ -161,7 +161,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_io_digital_output_get(unsigned int cbo
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param module  I/O module, 0 for the first. Not bounded: a module that does not exist reads other state.
  * @param channel  channel, 0 to 1.
- * @param value  output: value in volts or milliamperes, by the mode of the channel.
+ * @param value  output: value in the control box's unit for the channel's mode.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  * QORIN_API_RESULT_ERROR_CBOX_INVALID_IO_NUMBER when channel is out of range.
  */
@@ -175,7 +175,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_gen_cbox_io_analog_input_get(unsigned int c
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param channel  channel, 0 to 1.
- * @param value  output: value in volts or milliamperes, by the mode of the channel.
+ * @param value  output: value in the control box's unit for the channel's mode.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  * QORIN_API_RESULT_ERROR_CBOX_INVALID_IO_NUMBER when channel is out of range.
  */
@@ -190,7 +190,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_io_analog_input_get(unsigned int cbox_
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param module  I/O module, 0 for the first. Not bounded: a module that does not exist reads other state.
  * @param channel  channel, 0 to 1.
- * @param value  output: value in volts or milliamperes, by the mode of the channel.
+ * @param value  output: value in the control box's unit for the channel's mode.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  * QORIN_API_RESULT_ERROR_CBOX_INVALID_IO_NUMBER when channel is out of range.
  */
@@ -204,7 +204,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_gen_cbox_io_analog_output_get(unsigned int 
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param channel  channel, 0 to 1.
- * @param value  output: value in volts or milliamperes, by the mode of the channel.
+ * @param value  output: value in the control box's unit for the channel's mode.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  * QORIN_API_RESULT_ERROR_CBOX_INVALID_IO_NUMBER when channel is out of range.
  */
@@ -661,7 +661,7 @@ QORIN_API QORIN_API_RESULT qorin_cbox_io_digital_output_get(unsigned int channel
  *
  * @param module  I/O module, 0 for the first. Not bounded: a module that does not exist reads other state.
  * @param channel  channel, 0 to 1.
- * @param value  output: value in volts or milliamperes, by the mode of the channel.
+ * @param value  output: value in the control box's unit for the channel's mode.
  * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_gen_cbox_io_analog_input_get(unsigned int module, unsigned int channel, double* value);
@@ -670,7 +670,7 @@ QORIN_API QORIN_API_RESULT qorin_gen_cbox_io_analog_input_get(unsigned int modul
  * The same as qorin_rpc_cbox_io_analog_input_get() for the control box that was asked last.
  *
  * @param channel  channel, 0 to 1.
- * @param value  output: value in volts or milliamperes, by the mode of the channel.
+ * @param value  output: value in the control box's unit for the channel's mode.
  * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_cbox_io_analog_input_get(unsigned int channel, double* value);
@@ -680,7 +680,7 @@ QORIN_API QORIN_API_RESULT qorin_cbox_io_analog_input_get(unsigned int channel, 
  *
  * @param module  I/O module, 0 for the first. Not bounded: a module that does not exist reads other state.
  * @param channel  channel, 0 to 1.
- * @param value  output: value in volts or milliamperes, by the mode of the channel.
+ * @param value  output: value in the control box's unit for the channel's mode.
  * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_gen_cbox_io_analog_output_get(unsigned int module, unsigned int channel,
@@ -690,7 +690,7 @@ QORIN_API QORIN_API_RESULT qorin_gen_cbox_io_analog_output_get(unsigned int modu
  * The same as qorin_rpc_cbox_io_analog_output_get() for the control box that was asked last.
  *
  * @param channel  channel, 0 to 1.
- * @param value  output: value in volts or milliamperes, by the mode of the channel.
+ * @param value  output: value in the control box's unit for the channel's mode.
  * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_cbox_io_analog_output_get(unsigned int channel, double* value);
