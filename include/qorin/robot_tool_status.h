@@ -49,7 +49,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_tool_io_digital_output_get(unsigned i
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
  * @param channel  channel, 0 to 1.
- * @param value  output: value in volts or milliamperes, by the mode of the channel.
+ * @param value  output: value in the control box's unit for the channel's mode.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist; QORIN_API_RESULT_ERROR_ROBOT_INVALID_IO_NUMBER
  * when channel is out of range.
@@ -240,7 +240,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_tool_io_digital_output_get(unsigned int r
  *
  * @param robot_id  robot, 0 or 1.
  * @param channel  channel, 0 to 1.
- * @param value  output: value in volts or milliamperes, by the mode of the channel.
+ * @param value  output: value in the control box's unit for the channel's mode.
  * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_tool_io_analog_input_get(unsigned int robot_id, unsigned int channel,
