@@ -95,7 +95,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_conveyor_encoder_switch_get(unsigned 
  *
  * @param robot_id  robot, 0 or 1.
  * @param profiler_switch  output: on or off.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_ext_profiler_switch_get(unsigned int robot_id, QORIN_SWITCH* profiler_switch);
 
@@ -104,7 +104,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_ext_profiler_switch_get(unsigned int robo
  *
  * @param robot_id  robot, 0 or 1.
  * @param period  output: period in milliseconds, rounded, halves up.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_ext_profiler_period_get(unsigned int robot_id, unsigned int* period);
 
@@ -113,7 +113,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_ext_profiler_period_get(unsigned int robo
  *
  * @param robot_id  robot, 0 or 1.
  * @param size  output: size of the buffer, in points.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_ext_profiler_buffer_size_get(unsigned int robot_id, unsigned int* size);
 
@@ -122,7 +122,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_ext_profiler_buffer_size_get(unsigned int
  *
  * @param robot_id  robot, 0 or 1.
  * @param type  output: flange or TCP.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_ext_profiler_tcp_type_get(unsigned int robot_id, QORIN_POSE_TYPE* type);
 
@@ -131,7 +131,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_ext_profiler_tcp_type_get(unsigned int ro
  *
  * @param robot_id  robot, 0 or 1.
  * @param mode  output: on or off.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_conveyor_mode_get(unsigned int robot_id, QORIN_CONVEYOR_MODE* mode);
 
@@ -140,7 +140,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_conveyor_mode_get(unsigned int robot_id, 
  *
  * @param robot_id  robot, 0 or 1.
  * @param encoder_switch  output: on or off.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_conveyor_encoder_switch_get(unsigned int robot_id, QORIN_SWITCH* encoder_switch);
 

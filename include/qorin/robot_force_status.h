@@ -333,7 +333,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_ext_force_torq_sensor_switch_get(unsi
  *
  * @param robot_id  robot, 0 or 1.
  * @param control_switch  output: on or off.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_switch_get(unsigned int robot_id, QORIN_SWITCH* control_switch);
 
@@ -342,7 +342,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_switch_get(unsigned int robot_
  *
  * @param robot_id  robot, 0 or 1.
  * @param coordinate  output: base or TCP.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_coordinate_get(unsigned int robot_id,
                                                                  QORIN_REF_COORDINATE* coordinate);
@@ -357,7 +357,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_coordinate_get(unsigned int ro
  * @param rx  output: on or off about x.
  * @param ry  output: on or off about y.
  * @param rz  output: on or off about z.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_direction_switch_get(unsigned int robot_id, QORIN_SWITCH* x,
                                                                        QORIN_SWITCH* y, QORIN_SWITCH* z,
@@ -374,7 +374,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_direction_switch_get(unsigned 
  * @param rx  output: torque about x.
  * @param ry  output: torque about y.
  * @param rz  output: torque about z.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_force_get(unsigned int robot_id, double* x, double* y, double* z,
                                                             double* rx, double* ry, double* rz);
@@ -389,7 +389,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_force_get(unsigned int robot_i
  * @param rx  output: velocity about x.
  * @param ry  output: velocity about y.
  * @param rz  output: velocity about z.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_velocity_get(unsigned int robot_id, double* x, double* y, double* z,
                                                                double* rx, double* ry, double* rz);
@@ -404,7 +404,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_velocity_get(unsigned int robo
  * @param rx  output: acceleration about x.
  * @param ry  output: acceleration about y.
  * @param rz  output: acceleration about z.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_acc_get(unsigned int robot_id, double* x, double* y, double* z,
                                                           double* rx, double* ry, double* rz);
@@ -419,7 +419,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_acc_get(unsigned int robot_id,
  * @param rx  output: deceleration about x.
  * @param ry  output: deceleration about y.
  * @param rz  output: deceleration about z.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_dec_get(unsigned int robot_id, double* x, double* y, double* z,
                                                           double* rx, double* ry, double* rz);
@@ -434,7 +434,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_dec_get(unsigned int robot_id,
  * @param rx  output: stiffness about x.
  * @param ry  output: stiffness about y.
  * @param rz  output: stiffness about z.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_stiffness_get(unsigned int robot_id, double* x, double* y, double* z,
                                                                 double* rx, double* ry, double* rz);
@@ -449,7 +449,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_stiffness_get(unsigned int rob
  * @param rx  output: damping ratio about x.
  * @param ry  output: damping ratio about y.
  * @param rz  output: damping ratio about z.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_damping_ratio_get(unsigned int robot_id, double* x, double* y,
                                                                     double* z, double* rx, double* ry, double* rz);
@@ -464,7 +464,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_damping_ratio_get(unsigned int
  * @param rx  output: inertia about x.
  * @param ry  output: inertia about y.
  * @param rz  output: inertia about z.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_inertia_get(unsigned int robot_id, double* x, double* y, double* z,
                                                               double* rx, double* ry, double* rz);
@@ -479,7 +479,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_inertia_get(unsigned int robot
  * @param rx  output: velocity about x.
  * @param ry  output: velocity about y.
  * @param rz  output: velocity about z.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_approach_velocity_get(unsigned int robot_id, double* x, double* y,
                                                                         double* z, double* rx, double* ry, double* rz);
@@ -489,7 +489,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_approach_velocity_get(unsigned
  *
  * @param robot_id  robot, 0 or 1.
  * @param low_pass_filter  output: setting, as it was given to the control box.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_low_pass_filter_get(unsigned int robot_id, double* low_pass_filter);
 
@@ -498,7 +498,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_low_pass_filter_get(unsigned i
  *
  * @param robot_id  robot, 0 or 1.
  * @param bias_switch  output: on or off.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_sensorless_bias_get(unsigned int robot_id, QORIN_SWITCH* bias_switch);
 
@@ -512,7 +512,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_sensorless_bias_get(unsigned i
  * @param rx  output: on or off about x.
  * @param ry  output: on or off about y.
  * @param rz  output: on or off about z.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_force_value_bias_get(unsigned int robot_id, QORIN_SWITCH* x,
                                                                        QORIN_SWITCH* y, QORIN_SWITCH* z,
@@ -526,7 +526,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_force_value_bias_get(unsigned 
  * @param x  output: force along x.
  * @param y  output: force along y.
  * @param z  output: force along z.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_actual_force_get(unsigned int robot_id, double* x, double* y,
                                                                    double* z);
@@ -538,7 +538,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_actual_force_get(unsigned int 
  * @param x  output: torque about x.
  * @param y  output: torque about y.
  * @param z  output: torque about z.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_actual_torq_get(unsigned int robot_id, double* x, double* y,
                                                                   double* z);
@@ -548,7 +548,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_actual_torq_get(unsigned int r
  *
  * @param robot_id  robot, 0 or 1.
  * @param sensor_switch  output: on or off.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_force_torq_sensor_switch_get(unsigned int robot_id, QORIN_SWITCH* sensor_switch);
 
@@ -559,7 +559,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_force_torq_sensor_switch_get(unsigned int
  * @param x  output: force along x.
  * @param y  output: force along y.
  * @param z  output: force along z.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_force_torq_sensor_actual_force_get(unsigned int robot_id, double* x, double* y,
                                                                           double* z);
@@ -571,7 +571,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_force_torq_sensor_actual_force_get(unsign
  * @param x  output: torque about x.
  * @param y  output: torque about y.
  * @param z  output: torque about z.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_force_torq_sensor_actual_torq_get(unsigned int robot_id, double* x, double* y,
                                                                          double* z);
@@ -581,7 +581,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_force_torq_sensor_actual_torq_get(unsigne
  *
  * @param robot_id  robot, 0 or 1.
  * @param sensor_switch  output: on or off.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_ext_force_torq_sensor_switch_get(unsigned int robot_id,
                                                                         QORIN_SWITCH* sensor_switch);

@@ -293,7 +293,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_collision_mitigation_switch_get(unsig
  *
  * @param robot_id  robot, 0 or 1.
  * @param state  output: QORIN_ROBOT_SAFETY_STATE_SAFE, or QORIN_ROBOT_SAFETY_STATE_NOT_SAFE while a violation stands.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_state_safety_get(unsigned int robot_id, QORIN_ROBOT_SAFETY_STATE* state);
 
@@ -302,7 +302,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_state_safety_get(unsigned int robot_id, Q
  *
  * @param robot_id  robot, 0 or 1.
  * @param crc32  output: the sum that the control box computed.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_safety_crc32_get(unsigned int robot_id, unsigned int* crc32);
 
@@ -311,7 +311,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_safety_crc32_get(unsigned int robot_id, u
  *
  * @param robot_id  robot, 0 or 1.
  * @param limit_switch  output: on or off.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_safety_limit_switch_get(unsigned int robot_id, QORIN_SWITCH* limit_switch);
 
@@ -320,7 +320,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_safety_limit_switch_get(unsigned int robo
  *
  * @param robot_id  robot, 0 or 1.
  * @param speed_max  output: largest speed.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_safety_limit_tcp_speed_max_get(unsigned int robot_id, double* speed_max);
 
@@ -329,7 +329,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_safety_limit_tcp_speed_max_get(unsigned i
  *
  * @param robot_id  robot, 0 or 1.
  * @param acc_max  output: largest acceleration.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_safety_limit_tcp_acc_max_get(unsigned int robot_id, double* acc_max);
 
@@ -340,7 +340,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_safety_limit_tcp_acc_max_get(unsigned int
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
  * @param angle_1  output: one end of the range, in degrees; the one that the control box sends second.
  * @param angle_2  output: the other end, in degrees; the one that the control box sends first.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_safety_limit_joint_angle_get(unsigned int robot_id, unsigned int joint,
                                                                     double* angle_1, double* angle_2);
@@ -351,7 +351,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_safety_limit_joint_angle_get(unsigned int
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
  * @param speed_max  output: largest speed, in degrees per second.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_safety_limit_joint_speed_max_get(unsigned int robot_id, unsigned int joint,
                                                                         double* speed_max);
@@ -362,7 +362,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_safety_limit_joint_speed_max_get(unsigned
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
  * @param acc_max  output: largest acceleration, in degrees per second squared.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_safety_limit_joint_acc_max_get(unsigned int robot_id, unsigned int joint,
                                                                       double* acc_max);
@@ -373,7 +373,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_safety_limit_joint_acc_max_get(unsigned i
  * @param robot_id  robot, 0 or 1.
  * @param velocity_1  output: the limit that the control box sends second.
  * @param velocity_2  output: the limit that the control box sends first.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_safety_limit_velocity_in_reduced_mode_get(unsigned int robot_id,
                                                                                  double* velocity_1,
@@ -385,7 +385,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_safety_limit_velocity_in_reduced_mode_get
  *
  * @param robot_id  robot, 0 or 1.
  * @param force  output: threshold.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT
 qorin_robot_safety_limit_collision_detection_tcp_force_in_reduced_mode_get(unsigned int robot_id, double* force);
@@ -397,7 +397,7 @@ qorin_robot_safety_limit_collision_detection_tcp_force_in_reduced_mode_get(unsig
  * @param robot_id  robot, 0 or 1.
  * @param count  number of thresholds to read, below the robot's number of joints; 0 reads none.
  * @param torque  output: thresholds of the first `count` joints.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_safety_limit_collision_detection_torque_in_reduced_mode_get(
     unsigned int robot_id, unsigned int count, double* torque);
@@ -407,7 +407,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_safety_limit_collision_detection_torque_i
  *
  * @param robot_id  robot, 0 or 1.
  * @param shape_switch  output: on or off.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_safety_limit_tcp_bounding_shape_switch_get(unsigned int robot_id,
                                                                                   QORIN_SWITCH* shape_switch);
@@ -421,7 +421,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_safety_limit_tcp_bounding_shape_switch_ge
  * @param norm_y  output: normal, component y.
  * @param norm_z  output: normal, component z.
  * @param distance  output: distance of the plane along the normal.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_safety_limit_plane_norm_distance_get(unsigned int robot_id, unsigned int plane,
                                                                             double* norm_x, double* norm_y,
@@ -450,7 +450,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_safety_limit_plane_norm_origin_get(unsign
  *
  * @param robot_id  robot, 0 or 1.
  * @param detection_switch  output: on or off.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_collision_detection_switch_get(unsigned int robot_id,
                                                                       QORIN_SWITCH* detection_switch);
@@ -461,7 +461,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_collision_detection_switch_get(unsigned i
  *
  * @param robot_id  robot, 0 or 1.
  * @param force  output: threshold.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_collision_detection_threshold_tcp_resultant_force_get(unsigned int robot_id,
                                                                                              double* force);
@@ -476,7 +476,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_collision_detection_threshold_tcp_resulta
  * @param rx  output: torque threshold about x.
  * @param ry  output: torque threshold about y.
  * @param rz  output: torque threshold about z.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_collision_detection_threshold_tcp_force_get(unsigned int robot_id, double* x,
                                                                                    double* y, double* z, double* rx,
@@ -488,7 +488,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_collision_detection_threshold_tcp_force_g
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, below the robot's number of joints.
  * @param torque  output: threshold.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_collision_detection_threshold_joint_torque_get(unsigned int robot_id,
                                                                                       unsigned int joint,
@@ -499,7 +499,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_collision_detection_threshold_joint_torqu
  *
  * @param robot_id  robot, 0 or 1.
  * @param mitigation_switch  output: on or off.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_collision_mitigation_switch_get(unsigned int robot_id,
                                                                        QORIN_SWITCH* mitigation_switch);

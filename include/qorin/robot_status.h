@@ -684,7 +684,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_spec_joint_acc_max_get(unsigned int c
  *
  * @param robot_id  robot, 0 or 1.
  * @param model  output: a QORIN_ROBOT_MODEL value.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_model_name_get(unsigned int robot_id, QORIN_ROBOT_MODEL* model);
 
@@ -693,7 +693,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_model_name_get(unsigned int robot_id, QOR
  *
  * @param robot_id  robot, 0 or 1.
  * @param count  output: number of joints, at most 6.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_number_of_joints_get(unsigned int robot_id, unsigned int* count);
 
@@ -702,7 +702,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_number_of_joints_get(unsigned int robot_i
  *
  * @param robot_id  robot, 0 or 1.
  * @param servo_switch  output: on or off.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_servo_switch_get(unsigned int robot_id, QORIN_SWITCH* servo_switch);
 
@@ -711,7 +711,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_servo_switch_get(unsigned int robot_id, Q
  *
  * @param robot_id  robot, 0 or 1.
  * @param mode  output: a QORIN_DRIVE_CONTROL_MODE value.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_control_mode_get(unsigned int robot_id, QORIN_DRIVE_CONTROL_MODE* mode);
 
@@ -721,7 +721,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_control_mode_get(unsigned int robot_id, Q
  * @param robot_id  robot, 0 or 1.
  * @param control_switch  output: on when the drive control mode is QORIN_DRIVE_CONTROL_MODE_VELOCITY_PROFILE or
  * QORIN_DRIVE_CONTROL_MODE_VELOCITY, else off.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_velocity_control_switch_get(unsigned int robot_id, QORIN_SWITCH* control_switch);
 
@@ -730,7 +730,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_velocity_control_switch_get(unsigned int 
  *
  * @param robot_id  robot, 0 or 1.
  * @param teaching_switch  output: on when the drive control mode is QORIN_DRIVE_CONTROL_MODE_TORQUE, else off.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_direct_teaching_switch_get(unsigned int robot_id, QORIN_SWITCH* teaching_switch);
 
@@ -739,7 +739,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_direct_teaching_switch_get(unsigned int r
  *
  * @param robot_id  robot, 0 or 1.
  * @param state  output: on while the robot follows streamed joint angles, else off.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_joint_chaser_state_get(unsigned int robot_id, QORIN_SWITCH* state);
 
@@ -748,7 +748,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_joint_chaser_state_get(unsigned int robot
  *
  * @param robot_id  robot, 0 or 1.
  * @param state  output: a QORIN_MOVING_STATE value.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_state_moving_get(unsigned int robot_id, QORIN_MOVING_STATE* state);
 
@@ -757,7 +757,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_state_moving_get(unsigned int robot_id, Q
  *
  * @param robot_id  robot, 0 or 1.
  * @param name  output: the name with its NUL; room for 32 bytes must be there. Bytes behind the NUL stay untouched.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_current_motion_name_get(unsigned int robot_id, char* name);
 
@@ -766,7 +766,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_current_motion_name_get(unsigned int robo
  *
  * @param robot_id  robot, 0 or 1.
  * @param speed_factor  output: override factor.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_speed_factor_get(unsigned int robot_id, double* speed_factor);
 
@@ -775,7 +775,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_speed_factor_get(unsigned int robot_id, d
  *
  * @param robot_id  robot, 0 or 1.
  * @param adjustment_switch  output: on or off.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_acc_dec_auto_adjustment_get(unsigned int robot_id,
                                                                    QORIN_SWITCH* adjustment_switch);
@@ -785,7 +785,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_acc_dec_auto_adjustment_get(unsigned int 
  *
  * @param robot_id  robot, 0 or 1.
  * @param event_switch  output: on or off.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_motion_command_robot_weaving_event_get(unsigned int robot_id,
                                                                         QORIN_SWITCH* event_switch);
@@ -796,7 +796,7 @@ QORIN_API QORIN_API_RESULT qorin_motion_command_robot_weaving_event_get(unsigned
  * @param robot_id  robot, 0 or 1.
  * @param mount_1  output: first mount angle, in degrees.
  * @param mount_2  output: second mount angle, in degrees.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_installation_mount_get(unsigned int robot_id, double* mount_1, double* mount_2);
 
@@ -808,7 +808,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_installation_mount_get(unsigned int robot
  * @param center_x  output: centre of mass along x.
  * @param center_y  output: centre of mass along y.
  * @param center_z  output: centre of mass along z.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_tcp_payload_get(unsigned int robot_id, double* mass, double* center_x,
                                                        double* center_y, double* center_z);
@@ -823,7 +823,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_tcp_payload_get(unsigned int robot_id, do
  * @param rx  output: rotation about x, in degrees.
  * @param ry  output: rotation about y, in degrees.
  * @param rz  output: rotation about z, in degrees.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_tcp_from_flange_get(unsigned int robot_id, double* x, double* y, double* z,
                                                            double* rx, double* ry, double* rz);
@@ -838,7 +838,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_tcp_from_flange_get(unsigned int robot_id
  * @param rx  output: rotation about x, in degrees.
  * @param ry  output: rotation about y, in degrees.
  * @param rz  output: rotation about z, in degrees.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_tcp_pose_command_get(unsigned int robot_id, double* x, double* y, double* z,
                                                             double* rx, double* ry, double* rz);
@@ -853,7 +853,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_tcp_pose_command_get(unsigned int robot_i
  * @param rx  output: rotation about x, in degrees.
  * @param ry  output: rotation about y, in degrees.
  * @param rz  output: rotation about z, in degrees.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_tcp_pose_actual_get(unsigned int robot_id, double* x, double* y, double* z,
                                                            double* rx, double* ry, double* rz);
@@ -868,7 +868,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_tcp_pose_actual_get(unsigned int robot_id
  * @param rx  output: rotation about x, in degrees.
  * @param ry  output: rotation about y, in degrees.
  * @param rz  output: rotation about z, in degrees.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_flange_pose_command_get(unsigned int robot_id, double* x, double* y, double* z,
                                                                double* rx, double* ry, double* rz);
@@ -883,7 +883,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_flange_pose_command_get(unsigned int robo
  * @param rx  output: rotation about x, in degrees.
  * @param ry  output: rotation about y, in degrees.
  * @param rz  output: rotation about z, in degrees.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_flange_pose_actual_get(unsigned int robot_id, double* x, double* y, double* z,
                                                               double* rx, double* ry, double* rz);
@@ -895,7 +895,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_flange_pose_actual_get(unsigned int robot
  * @param x  output: speed along x.
  * @param y  output: speed along y.
  * @param z  output: speed along z.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_tcp_pos_speed_command_get(unsigned int robot_id, double* x, double* y,
                                                                  double* z);
@@ -907,7 +907,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_tcp_pos_speed_command_get(unsigned int ro
  * @param rx  output: speed about x.
  * @param ry  output: speed about y.
  * @param rz  output: speed about z.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_tcp_ort_speed_command_get(unsigned int robot_id, double* rx, double* ry,
                                                                  double* rz);
@@ -919,7 +919,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_tcp_ort_speed_command_get(unsigned int ro
  * @param x  output: speed along x.
  * @param y  output: speed along y.
  * @param z  output: speed along z.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_tcp_pos_speed_actual_get(unsigned int robot_id, double* x, double* y, double* z);
 
@@ -930,7 +930,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_tcp_pos_speed_actual_get(unsigned int rob
  * @param rx  output: speed about x.
  * @param ry  output: speed about y.
  * @param rz  output: speed about z.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_tcp_ort_speed_actual_get(unsigned int robot_id, double* rx, double* ry,
                                                                 double* rz);
@@ -941,7 +941,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_tcp_ort_speed_actual_get(unsigned int rob
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
  * @param angle  output: angle in degrees.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_joint_angle_command_get(unsigned int robot_id, unsigned int joint,
                                                                double* angle);
@@ -952,7 +952,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_joint_angle_command_get(unsigned int robo
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
  * @param angle  output: angle in degrees.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_joint_angle_actual_get(unsigned int robot_id, unsigned int joint, double* angle);
 
@@ -962,7 +962,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_joint_angle_actual_get(unsigned int robot
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
  * @param speed  output: speed in degrees per second.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_joint_speed_command_get(unsigned int robot_id, unsigned int joint,
                                                                double* speed);
@@ -973,7 +973,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_joint_speed_command_get(unsigned int robo
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
  * @param speed  output: speed in degrees per second.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_joint_speed_actual_get(unsigned int robot_id, unsigned int joint, double* speed);
 
@@ -983,7 +983,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_joint_speed_actual_get(unsigned int robot
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
  * @param acc  output: acceleration in degrees per second squared.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_joint_acc_command_get(unsigned int robot_id, unsigned int joint, double* acc);
 
@@ -993,7 +993,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_joint_acc_command_get(unsigned int robot_
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
  * @param acc  output: acceleration in degrees per second squared.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_joint_acc_actual_get(unsigned int robot_id, unsigned int joint, double* acc);
 
@@ -1003,7 +1003,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_joint_acc_actual_get(unsigned int robot_i
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
  * @param torque  output: torque.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_joint_torque_actual_get(unsigned int robot_id, unsigned int joint,
                                                                double* torque);
@@ -1014,7 +1014,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_joint_torque_actual_get(unsigned int robo
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, below the robot's number of joints.
  * @param velocity  output: speed in degrees per second.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_joint_target_velocity_get(unsigned int robot_id, unsigned int joint,
                                                                  double* velocity);
@@ -1025,7 +1025,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_joint_target_velocity_get(unsigned int ro
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, below the robot's number of joints.
  * @param velocity  output: speed in revolutions per minute.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_joint_target_velocity_rpm_get(unsigned int robot_id, unsigned int joint,
                                                                      double* velocity);
@@ -1036,7 +1036,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_joint_target_velocity_rpm_get(unsigned in
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, below the robot's number of joints.
  * @param acceleration  output: acceleration in degrees per second squared.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_joint_target_acceleration_get(unsigned int robot_id, unsigned int joint,
                                                                      double* acceleration);
@@ -1047,7 +1047,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_joint_target_acceleration_get(unsigned in
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, below the robot's number of joints.
  * @param acceleration  output: acceleration in revolutions per minute, per second.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_joint_target_acceleration_rpm_get(unsigned int robot_id, unsigned int joint,
                                                                          double* acceleration);
@@ -1058,7 +1058,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_joint_target_acceleration_rpm_get(unsigne
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
  * @param temperature  output: temperature, as the drive gives it.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_joint_temperature_get(unsigned int robot_id, unsigned int joint,
                                                              double* temperature);
@@ -1069,7 +1069,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_joint_temperature_get(unsigned int robot_
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
  * @param voltage  output: voltage, as the drive gives it.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_joint_voltage_get(unsigned int robot_id, unsigned int joint, double* voltage);
 
@@ -1079,7 +1079,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_joint_voltage_get(unsigned int robot_id, 
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
  * @param current  output: current, as the drive gives it.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_joint_current_get(unsigned int robot_id, unsigned int joint, double* current);
 
@@ -1092,7 +1092,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_joint_current_get(unsigned int robot_id, 
  * @param code_2  output: second word.
  * @param code_3  output: third word.
  * @param code_4  output: fourth word.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_joint_error_code_get(unsigned int robot_id, unsigned int joint,
                                                             unsigned short* code_1, unsigned short* code_2,
@@ -1104,7 +1104,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_joint_error_code_get(unsigned int robot_i
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
  * @param feedrate  output: feed rate.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_dynamics_friction_feedrate_get(unsigned int robot_id, unsigned int joint,
                                                                       double* feedrate);
@@ -1115,7 +1115,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_dynamics_friction_feedrate_get(unsigned i
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
  * @param ratio  output: ratio.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_ts_robot_joint_velocity_feedforward_ratio_get(unsigned int robot_id,
                                                                                unsigned int joint, double* ratio);
@@ -1126,7 +1126,7 @@ QORIN_API QORIN_API_RESULT qorin_ts_robot_joint_velocity_feedforward_ratio_get(u
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
  * @param ratio  output: ratio.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_ts_robot_joint_torque_feedforward_ratio_get(unsigned int robot_id, unsigned int joint,
                                                                              double* ratio);
@@ -1136,7 +1136,7 @@ QORIN_API QORIN_API_RESULT qorin_ts_robot_joint_torque_feedforward_ratio_get(uns
  *
  * @param robot_id  robot, 0 or 1.
  * @param speed_max  output: largest speed.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_spec_tcp_speed_max_get(unsigned int robot_id, double* speed_max);
 
@@ -1145,7 +1145,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_spec_tcp_speed_max_get(unsigned int robot
  *
  * @param robot_id  robot, 0 or 1.
  * @param acc_max  output: largest acceleration.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_spec_tcp_acc_max_get(unsigned int robot_id, double* acc_max);
 
@@ -1156,7 +1156,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_spec_tcp_acc_max_get(unsigned int robot_i
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
  * @param angle_1  output: one end of the range, in degrees; the one that the control box sends second.
  * @param angle_2  output: the other end, in degrees; the one that the control box sends first.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_spec_joint_angle_get(unsigned int robot_id, unsigned int joint, double* angle_1,
                                                             double* angle_2);
@@ -1167,7 +1167,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_spec_joint_angle_get(unsigned int robot_i
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
  * @param speed_max  output: largest speed, in degrees per second.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_spec_joint_speed_max_get(unsigned int robot_id, unsigned int joint,
                                                                 double* speed_max);
@@ -1178,7 +1178,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_spec_joint_speed_max_get(unsigned int rob
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
  * @param acc_max  output: largest acceleration, in degrees per second squared.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_spec_joint_acc_max_get(unsigned int robot_id, unsigned int joint,
                                                               double* acc_max);

@@ -219,7 +219,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_tool_io_rs485_io_tx_data_get(unsigned
  * @param robot_id  robot, 0 or 1.
  * @param channel  channel, 0 to 3.
  * @param value  output: 0 or 1.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_tool_io_digital_input_get(unsigned int robot_id, unsigned int channel,
                                                                  unsigned int* value);
@@ -230,7 +230,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_tool_io_digital_input_get(unsigned int ro
  * @param robot_id  robot, 0 or 1.
  * @param channel  channel, 0 to 3.
  * @param value  output: 0 or 1.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_tool_io_digital_output_get(unsigned int robot_id, unsigned int channel,
                                                                   unsigned int* value);
@@ -241,7 +241,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_tool_io_digital_output_get(unsigned int r
  * @param robot_id  robot, 0 or 1.
  * @param channel  channel, 0 to 1.
  * @param value  output: value in the control box's unit for the channel's mode.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_tool_io_analog_input_get(unsigned int robot_id, unsigned int channel,
                                                                 double* value);
@@ -252,7 +252,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_tool_io_analog_input_get(unsigned int rob
  * @param robot_id  robot, 0 or 1.
  * @param channel  channel, 0 to 1.
  * @param value  output: value, as the module gives it.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_tool_io_analog_output_get(unsigned int robot_id, unsigned int channel,
                                                                  double* value);
@@ -265,7 +265,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_tool_io_analog_output_get(unsigned int ro
  * @param mode  output: voltage or current.
  * @param range  neither read nor written: the status mirror holds no range.
  * @param range_value  neither read nor written.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_tool_io_analog_input_mode_get(unsigned int robot_id, unsigned int channel,
                                                                      QORIN_ANALOG_IO_MODE* mode, int* range,
@@ -277,7 +277,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_tool_io_analog_input_mode_get(unsigned in
  * @param robot_id  robot, 0 or 1.
  * @param voltage  output: the supply voltage, a QORIN_TOOL_IO_POWER_VOLTAGE_OPTION value.
  * @param current  output: supply current.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_tool_io_power_voltage_current_get(unsigned int robot_id, unsigned int* voltage,
                                                                          double* current);
@@ -289,7 +289,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_tool_io_power_voltage_current_get(unsigne
  * @param color_1  output: first colour value.
  * @param color_2  output: second colour value.
  * @param color_3  output: third colour value.
- * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_tool_io_led_color_get(unsigned int robot_id, unsigned int* color_1,
                                                              unsigned int* color_2, unsigned int* color_3);
