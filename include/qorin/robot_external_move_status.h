@@ -45,7 +45,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_ext_profiler_period_get(unsigned int 
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param size  output: size of the buffer, in points.
+ * @param size  output: size of the buffer, as the control box counts it.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
  */
@@ -112,7 +112,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_ext_profiler_period_get(unsigned int robo
  * The same as qorin_rpc_robot_ext_profiler_buffer_size_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param size  output: size of the buffer, in points.
+ * @param size  output: size of the buffer, as the control box counts it.
  * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_ext_profiler_buffer_size_get(unsigned int robot_id, unsigned int* size);
