@@ -1,70 +1,66 @@
 #include "simulator/cbox_test_commands.h"
 
+#include <cstring>
+
 #include "simulator/fault_injection.h"
+#include "simulator/typed_command.h"
 
 namespace cbox_simulator
 {
 namespace
 {
-QORIN_API_RESULT event_echo(box_model& model, client_id, request_reader& arguments, reply_writer&)
+QORIN_API_RESULT event_echo(box_model& model, std::uint32_t group, std::uint32_t subgroup, std::uint32_t sender,
+                            std::int32_t parameter_0, std::int32_t parameter_1, std::int32_t parameter_2,
+                            std::int32_t parameter_3, std::int32_t parameter_4)
 {
     event_info event{};
-    event.group = arguments.next_u32();
-    event.subgroup = arguments.next_u32();
-    event.sender_id = arguments.next_u32();
-    for (std::size_t index = 0; index < std::size(event.parameter); ++index)
-        event.parameter[index] = arguments.next_i32();
+    event.group = group;
+    event.subgroup = subgroup;
+    event.sender_id = sender;
+    const std::int32_t parameters[] = {parameter_0, parameter_1, parameter_2, parameter_3, parameter_4};
+    std::memcpy(event.parameter, parameters, sizeof parameters);
     model.events().post(event);
     return QORIN_API_RESULT_OK;
 }
 
-QORIN_API_RESULT fault_inject(box_model& model, client_id, request_reader& arguments, reply_writer&)
+QORIN_API_RESULT fault_inject(box_model& model, std::uint32_t fault, std::uint32_t value_1, std::uint32_t value_2)
 {
-    const auto fault = static_cast<injected_fault>(arguments.next_u32());
-    const auto value_1 = arguments.next_u32();
-    const auto value_2 = arguments.next_u32();
-    return inject_fault(model, fault, value_1, value_2);
+    return inject_fault(model, static_cast<injected_fault>(fault), value_1, value_2);
 }
 
 /// A channel and its value.
 template <auto set>
-QORIN_API_RESULT inject(box_model& model, client_id, request_reader& arguments, reply_writer&)
+QORIN_API_RESULT inject(box_model& model, std::uint32_t channel, std::uint32_t value)
 {
-    const auto channel = arguments.next_u32();
-    const auto value = arguments.next_u32();
     return (model.cbox().*set)(channel, value);
 }
 
 /// A channel and its value; without a number the module is the first.
 template <auto set>
-QORIN_API_RESULT inject_first(box_model& model, client_id, request_reader& arguments, reply_writer&)
+QORIN_API_RESULT inject_first(box_model& model, std::uint32_t channel, std::uint32_t value)
 {
-    const auto channel = arguments.next_u32();
-    const auto value = arguments.next_u32();
     return (model.cbox().*set)(0, channel, value);
 }
 
 /// A module, its channel and the value.
 template <auto set>
-QORIN_API_RESULT inject_module(box_model& model, client_id, request_reader& arguments, reply_writer&)
+QORIN_API_RESULT inject_module(box_model& model, std::uint32_t module, std::uint32_t channel, std::uint32_t value)
 {
-    const auto module = arguments.next_u32();
-    const auto channel = arguments.next_u32();
-    const auto value = arguments.next_u32();
     return (model.cbox().*set)(module, channel, value);
 }
 
 constexpr command_row rows[] = {
-    {"qorin_ts_event_echo", event_echo},
-    {"qorin_ts_fault_inject", fault_inject},
-    {"qorin_ts_cbox_io_digital_input_set", inject_first<&cbox_state::set_digital_input>},
-    {"qorin_ts_cbox_redundant_io_digital_input_set", inject_first<&cbox_state::set_redundant_input>},
-    {"qorin_ts_cbox_redundant_io_digital_output_set", inject_first<&cbox_state::set_redundant_output>},
-    {"qorin_ts_gen_cbox_io_digital_input_set", inject_module<&cbox_state::set_digital_input>},
-    {"qorin_ts_gen_cbox_redundant_io_digital_input_set", inject_module<&cbox_state::set_redundant_input>},
-    {"qorin_ts_gen_cbox_redundant_io_digital_output_set", inject_module<&cbox_state::set_redundant_output>},
-    {"qorin_ts_safety_module_redundant_io_digital_input_set", inject<&cbox_state::set_safety_redundant_input>},
-    {"qorin_ts_epc_io_digital_input_set", inject<&cbox_state::set_epc_input>},
+    open_to_all<event_echo>("qorin_ts_event_echo"),
+    open_to_all<fault_inject>("qorin_ts_fault_inject"),
+    open_to_all<inject_first<&cbox_state::set_digital_input>>("qorin_ts_cbox_io_digital_input_set"),
+    open_to_all<inject_first<&cbox_state::set_redundant_input>>("qorin_ts_cbox_redundant_io_digital_input_set"),
+    open_to_all<inject_first<&cbox_state::set_redundant_output>>("qorin_ts_cbox_redundant_io_digital_output_set"),
+    open_to_all<inject_module<&cbox_state::set_digital_input>>("qorin_ts_gen_cbox_io_digital_input_set"),
+    open_to_all<inject_module<&cbox_state::set_redundant_input>>("qorin_ts_gen_cbox_redundant_io_digital_input_set"),
+    open_to_all<inject_module<&cbox_state::set_redundant_output>>("qorin_ts_gen_cbox_redundant_io_digital_output_set"),
+    open_to_all<inject<&cbox_state::set_safety_redundant_input>>(
+        "qorin_ts_safety_module_redundant_io_digital_input_set"),
+    open_to_all<inject<&cbox_state::set_epc_input>>("qorin_ts_epc_io_digital_input_set"),
 };
 } // namespace
 

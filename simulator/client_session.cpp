@@ -158,16 +158,18 @@ void client_session::serve_request()
 QORIN_API_RESULT client_session::perform(request_reader& arguments, reply_writer& outputs)
 {
     const auto name = arguments.wire_name();
-    const auto handler = environment_.commands.find(name);
-    if (handler == nullptr)
+    const auto* command = environment_.commands.find(name);
+    if (command == nullptr)
     {
         environment_.log.write(log_level::warning, "client {} sent a command that this box does not support: {}", id_,
                                printable(name));
         return QORIN_API_RESULT_ERROR_NO_SUPPORT;
     }
     const auto owner_before = environment_.model.control_owner();
-    const auto result = handler(environment_.model, id_, arguments, outputs);
-    environment_.log.write(log_level::debug, "client {} {}: {}", id_, name, static_cast<unsigned int>(result));
+    const auto result = command->handler(environment_.model, id_, arguments, outputs);
+    if (environment_.log.wants(log_level::debug))
+        environment_.log.write(log_level::debug, "client {} {}({}): {}", id_, name,
+                               argument_text(request_, command->arguments), static_cast<unsigned int>(result));
     report_control_change(owner_before);
     return result;
 }

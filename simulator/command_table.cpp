@@ -15,15 +15,23 @@ void command_table::add(std::span<const command_row> rows)
 {
     for (const auto& row : rows)
     {
-        if (!handlers_.emplace(row.wire_name, row.handler).second)
+        if (!rows_.emplace(row.wire_name, row).second)
             throw std::logic_error(fmt::format("command {} stands twice in the table", row.wire_name));
     }
 }
 
-command_handler command_table::find(std::string_view wire_name) const
+const command_row* command_table::find(std::string_view wire_name) const
 {
-    const auto found = handlers_.find(wire_name);
-    return found == handlers_.end() ? nullptr : found->second;
+    const auto found = rows_.find(wire_name);
+    return found == rows_.end() ? nullptr : &found->second;
+}
+
+std::vector<command_row> command_table::rows() const
+{
+    std::vector<command_row> rows;
+    for (const auto& [name, row] : rows_)
+        rows.push_back(row);
+    return rows;
 }
 
 command_table make_command_table()

@@ -5,7 +5,9 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <vector>
 
+#include "simulator/argument_type.h"
 #include "simulator/box_model.h"
 #include "simulator/reply_writer.h"
 #include "simulator/request_reader.h"
@@ -20,6 +22,7 @@ struct command_row
 {
     std::string_view wire_name; ///< a literal: the table keeps the view
     command_handler handler;
+    std::span<const argument_type> arguments; ///< what the handler takes from a request, in its order
 };
 
 /// All commands that the box knows, by wire name.
@@ -30,10 +33,13 @@ public:
     void add(std::span<const command_row> rows);
 
     /// Null when the box has no such command.
-    [[nodiscard]] command_handler find(std::string_view wire_name) const;
+    [[nodiscard]] const command_row* find(std::string_view wire_name) const;
+
+    /// Every command of the table.
+    [[nodiscard]] std::vector<command_row> rows() const;
 
 private:
-    std::unordered_map<std::string_view, command_handler> handlers_;
+    std::unordered_map<std::string_view, command_row> rows_;
 };
 
 /// The table with every family of the box.

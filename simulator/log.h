@@ -28,10 +28,13 @@ class console_log
 public:
     console_log(log_sink sink, log_level level) : sink_(std::move(sink)), level_(level) {}
 
+    /// Whether lines of the level are wanted: asked where a line is dear to make.
+    [[nodiscard]] bool wants(log_level level) const { return sink_ && level <= level_; }
+
     template <class... Args>
     void write(log_level level, fmt::format_string<Args...> format, Args&&... args) const
     {
-        if (sink_ && level <= level_)
+        if (wants(level))
         {
             sink_(level, fmt::format(format, std::forward<Args>(args)...));
         }

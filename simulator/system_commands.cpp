@@ -1,5 +1,9 @@
 #include "simulator/system_commands.h"
 
+#include <string_view>
+
+#include "simulator/typed_command.h"
+
 namespace cbox_simulator
 {
 namespace
@@ -7,61 +11,39 @@ namespace
 // A system of one arm is what the plain creation stands for.
 constexpr std::uint32_t single_robot = 1;
 
-QORIN_API_RESULT create(box_model& model, client_id client, request_reader& arguments, reply_writer&)
+QORIN_API_RESULT create(box_model& model, client_id client, std::string_view, QORIN_CBOX_MODEL cbox_model)
 {
-    [[maybe_unused]] const auto text = arguments.next_text();
-    const auto cbox_model = arguments.next_enum<QORIN_CBOX_MODEL>();
     return model.create_system(client, {cbox_model, single_robot});
 }
 
-QORIN_API_RESULT create_for_several_robots(box_model& model, client_id client, request_reader& arguments, reply_writer&)
+QORIN_API_RESULT create_for_several_robots(box_model& model, client_id client, std::string_view,
+                                           QORIN_CBOX_MODEL cbox_model, std::uint32_t robot_capacity)
 {
-    [[maybe_unused]] const auto text = arguments.next_text();
-    const auto cbox_model = arguments.next_enum<QORIN_CBOX_MODEL>();
-    const auto robot_capacity = arguments.next_u32();
     return model.create_system(client, {cbox_model, robot_capacity});
 }
 
-QORIN_API_RESULT destroy(box_model& model, client_id client, request_reader&, reply_writer&)
+QORIN_API_RESULT controllable_get(box_model& model, client_id client, QORIN_SWITCH& controllable)
 {
-    return model.destroy_system(client);
-}
-
-QORIN_API_RESULT control_take(box_model& model, client_id client, request_reader&, reply_writer&)
-{
-    return model.take_control(client);
-}
-
-QORIN_API_RESULT control_release(box_model& model, client_id client, request_reader&, reply_writer&)
-{
-    return model.release_control(client);
-}
-
-QORIN_API_RESULT controllable_get(box_model& model, client_id client, request_reader&, reply_writer& outputs)
-{
-    outputs.next_value(model.holds_control(client) ? QORIN_SWITCH_ON : QORIN_SWITCH_OFF);
+    controllable = model.holds_control(client) ? QORIN_SWITCH_ON : QORIN_SWITCH_OFF;
     return QORIN_API_RESULT_OK;
 }
 
-QORIN_API_RESULT reset(box_model& model, client_id client, request_reader&, reply_writer&)
+/// An operation of the model that needs to know nothing but who asks.
+template <auto operation>
+QORIN_API_RESULT ask(box_model& model, client_id client)
 {
-    return model.reset_system(client);
-}
-
-QORIN_API_RESULT control_sw_exit(box_model& model, client_id client, request_reader&, reply_writer&)
-{
-    return model.request_exit(client);
+    return (model.*operation)(client);
 }
 
 constexpr command_row rows[] = {
-    {"qorin_gen_system_create", create},
-    {"qorin_gen_multi_robot_system_create", create_for_several_robots},
-    {"qorin_system_destroy", destroy},
-    {"qorin_system_control_take", control_take},
-    {"qorin_system_control_release", control_release},
-    {"qorin_system_controllable_get", controllable_get},
-    {"qorin_system_reset", reset},
-    {"qorin_system_control_sw_exit", control_sw_exit},
+    open_to_all<create>("qorin_gen_system_create"),
+    open_to_all<create_for_several_robots>("qorin_gen_multi_robot_system_create"),
+    open_to_all<ask<&box_model::destroy_system>>("qorin_system_destroy"),
+    open_to_all<ask<&box_model::take_control>>("qorin_system_control_take"),
+    open_to_all<ask<&box_model::release_control>>("qorin_system_control_release"),
+    open_to_all<controllable_get>("qorin_system_controllable_get"),
+    open_to_all<ask<&box_model::reset_system>>("qorin_system_reset"),
+    open_to_all<ask<&box_model::request_exit>>("qorin_system_control_sw_exit"),
 };
 } // namespace
 

@@ -34,7 +34,7 @@ struct commanded_box
         protocol::reply_record reply;
         cbox_simulator::request_reader arguments(request);
         cbox_simulator::reply_writer outputs(reply);
-        outputs.result(commands.find(arguments.wire_name())(model, client, arguments, outputs));
+        outputs.result(commands.find(arguments.wire_name())->handler(model, client, arguments, outputs));
         return reply;
     }
 
