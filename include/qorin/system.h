@@ -193,7 +193,7 @@ QORIN_API const char* qorin_system_control_sw_version_get(void);
 /**
  * Whether this process may command. In this client always so: qorin_rpc_system_controllable_get() asks the control box.
  *
- * @param controllable  output: QORIN_SWITCH_ON.
+ * @param controllable  output: QORIN_SWITCH_ON. Must not be null.
  * @return QORIN_API_RESULT_OK.
  */
 QORIN_API QORIN_API_RESULT qorin_system_controllable_get(QORIN_SWITCH* controllable);

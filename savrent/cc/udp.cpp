@@ -44,6 +44,8 @@ int udp::send(const char* buffer, int length)
 
 int udp::recv(char* buffer, int length)
 {
+    if (length < 1)
+        return 0;
     int count = 0;
     while (count != length)
     {

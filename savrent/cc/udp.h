@@ -29,7 +29,7 @@ public:
     /// @return `length`, or 0 on failure.
     int send(const char* buffer, int length);
 
-    /// Gathers datagrams until `length` bytes are there. @return the count gathered.
+    /// Gathers datagrams until `length` bytes are there. @return the count gathered; 0 for a length below 1.
     int recv(char* buffer, int length);
 
     void close();

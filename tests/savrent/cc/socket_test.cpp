@@ -158,6 +158,7 @@ TEST(udp, sends_to_its_fixed_remote_address)
     EXPECT_EQ(2, sender.send("de", 2));
     char buffer[5];
     EXPECT_EQ(0, receiver.recv(buffer, 0));
+    EXPECT_EQ(0, receiver.recv(buffer, -5)) << "no length bounds the waiting datagram then";
     EXPECT_EQ(5, receiver.recv(buffer, 5));
     EXPECT_EQ("abcde", std::string(buffer, 5));
 }
