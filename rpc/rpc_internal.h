@@ -26,7 +26,6 @@ void end_connections();
 /**
  * What the sources that are shared with the control software ask for, and what a client has no more to say about.
  */
-[[nodiscard]] void* qorin_internal_get_motion_command(int command_id, QORIN_API_RESULT& result);
 QORIN_API_RESULT qorin_internal_robot_motion_command_pre_check(int command_id);
 QORIN_API_RESULT qorin_internal_robot_motion_command_is_runnable(int command_id);
 
