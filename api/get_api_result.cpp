@@ -4,11 +4,11 @@
 #include <atomic>
 #include <cstddef>
 #include <cstdio>
-#include <fstream>
 #include <map>
 #include <memory>
 #include <string>
 
+#include "api/catalogue_xml.h"
 #include "savrent/cc/immortal.h"
 
 namespace
@@ -237,17 +237,11 @@ const char* qorin_system_api_result_how_to_handle_get(QORIN_API_RESULT result)
 QORIN_API_RESULT qorin_system_api_result_description_all_xml_save(const char* path)
 {
     const catalogue_map& rows = catalogue();
-    std::ofstream file(path == nullptr ? "" : path);
-    file << "<QorinApiError>" << std::endl;
+    qorin_api::catalogue_xml file(path, "QorinApiError");
     for (const auto& [code, texts] : rows)
-    {
-        file << "  <ErrInfo>" << std::endl;
-        file << "    <Name>" << texts.name << "</Name>" << std::endl;
-        file << "    <Code>" << code << "</Code>" << std::endl;
-        file << "    <Description>" << texts.description << "</Description>" << std::endl;
-        file << "    <HowToHandle>" << texts.how_to_handle << "</HowToHandle>" << std::endl;
-        file << "  </ErrInfo>" << std::endl;
-    }
-    file << "</QorinApiError>" << std::endl;
+        file.write_row("ErrInfo", {{"Name", texts.name},
+                                   {"Code", std::to_string(code)},
+                                   {"Description", texts.description},
+                                   {"HowToHandle", texts.how_to_handle}});
     return QORIN_API_RESULT_OK;
 }

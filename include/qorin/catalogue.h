@@ -1,10 +1,10 @@
 /**
  * @file catalogue.h
- * Names, descriptions and advice for result codes.
+ * Names, descriptions and advice for result codes, and for the events that report trouble.
  *
- * All functions here compute locally: they send nothing and do not block. The texts belong to the library; nothing is
- * to be freed. The catalogue is filled on the first call and takes no lock: let one call come before other threads use
- * it.
+ * All functions here compute locally: they send nothing and block only to write a file. The texts belong to the
+ * library; nothing is to be freed. Each catalogue is filled on its first use and takes no lock: let one call come
+ * before other threads use it.
  */
 #ifndef QORIN_CATALOGUE_H
 #define QORIN_CATALOGUE_H
@@ -61,6 +61,30 @@ QORIN_API QORIN_API_RESULT qorin_system_api_result_description_all_xml_save(cons
  * is written.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_system_api_result_description_all_xml_save(unsigned int cbox_id, const char* path);
+
+/**
+ * Writes the catalogue of error events to an XML file: 60 events, ascending by code, each with name, code, description,
+ * the values that it carries in their order, and advice.
+ *
+ * The catalogue holds the error subgroups and some others that report trouble; other events have no entry. Texts
+ * are not escaped. A file that cannot be opened is not reported.
+ *
+ * @param path  taken as it stands; an existing file is overwritten, no directory is made.
+ * @return QORIN_API_RESULT_OK in every case.
+ */
+QORIN_API QORIN_API_RESULT qorin_system_error_event_description_all_xml_save(const char* path);
+
+/**
+ * The same for a connected control box, which becomes the current one. The catalogue is the library's own and the same
+ * for all control boxes. Takes no lock and writes no call line.
+ *
+ * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
+ * @param path     as for qorin_system_error_event_description_all_xml_save().
+ * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected, and then nothing
+ * is written.
+ */
+QORIN_API QORIN_API_RESULT qorin_rpc_system_error_event_description_all_xml_save(unsigned int cbox_id,
+                                                                                 const char* path);
 
 QORIN_API_C_END
 

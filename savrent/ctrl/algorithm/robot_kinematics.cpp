@@ -13,9 +13,11 @@
 #include <boost/filesystem/directory.hpp>
 #include <boost/system/system_error.hpp>
 
+#include "qorin/result.h"
 #include "savrent/cc/debug_print.h"
 #include "savrent/cc/enum_name.h"
 #include "savrent/cc/os_util.h"
+#include "savrent/cc/shared_data_manager.h"
 
 namespace savrent::ctrl::algorithm
 {
@@ -100,6 +102,8 @@ robot_kinematics::robot_kinematics(QORIN_ROBOT_MODEL model, std::string path)
     const char* name = cc::get_string_from_enum_internal(model);
     QORIN_DEBUG_PRINT(QORIN_LOG_TYPE_ERROR, "cannot find robot kinematics module, model: %s\n",
                       name == nullptr ? "nullptr" : name);
+    if (cc::system_data* data = cc::get_system_data())
+        data->error_code = QORIN_API_RESULT_ROBOT_SERVER_KINEMATICS_MODULE_LOAD_FAILURE;
 }
 
 robot_kinematics::~robot_kinematics()

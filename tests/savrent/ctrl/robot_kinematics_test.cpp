@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "api/qorin_enum_to_string.h"
+#include "savrent/cc/shared_data_manager.h"
 #include "savrent/cc/system_config_parser.h"
 #include "tests/support/installation.h"
 #include "tests/support/module_directory.h"
@@ -27,6 +28,7 @@ protected:
         ASSERT_TRUE(savrent::cc::system_config_parser::get_instance()->load_file(place.config_path().c_str()));
         savrent::cc::qorin_init_enum_to_string();
         fs::create_directories(directory);
+        (void)savrent::cc::get_system_data(); // its one report that there are none is no part of a search
     }
 
     /// What a search prints, with 1 or 0 in front: whether it found kinematics.
