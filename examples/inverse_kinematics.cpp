@@ -1,0 +1,137 @@
+// Solves the inverse kinematics of a pose in the client: all eight solutions, and an approach from a reference.
+//
+//   inverse_kinematics ADDRESS CONFIG [X Y Z RX RY RZ]
+//
+// The pose is one of the flange, in millimetres and degrees, of an arm of model 401512; without it the arm takes one
+// that it reaches. The configuration's `client.kinematics_path` names the directory of the kinematics modules. Nothing
+// moves.
+
+#include <chrono>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <thread>
+
+#include <qorin/qorin_api_rpc_client.h>
+
+namespace
+{
+/// Commands read 128 bytes from each text and output, so these stand in buffers of that size.
+const char text[128] = "inverse kinematics example";
+
+constexpr int joint_count = 6;
+constexpr int solution_count = 8;
+constexpr unsigned int steps = 20;
+const double reference[joint_count] = {0, 20, 60, 0, 40, 0};
+
+struct pose
+{
+    double position[3];
+    double orientation[3];
+};
+
+bool is_ok(const char* step, QORIN_API_RESULT result)
+{
+    if (result != QORIN_API_RESULT_OK)
+        std::fprintf(stderr, "%s: %u %s\n", step, static_cast<unsigned int>(result),
+                     qorin_system_api_result_string_get(result));
+    return result == QORIN_API_RESULT_OK;
+}
+
+/// Makes whatever stands ahead of a robot: the system and the control.
+bool take_control(unsigned int cbox_id)
+{
+    const QORIN_API_RESULT created = qorin_rpc_gen_system_create(cbox_id, text, QORIN_CBOX_MODEL_3GEN_SIM);
+    return (created == QORIN_API_RESULT_WARNING_SYSTEM_ALREADY_CREATED || is_ok("create system", created)) &&
+           is_ok("take control", qorin_rpc_system_control_take(cbox_id));
+}
+
+bool find_target(unsigned int cbox_id, unsigned int robot_id, char** numbers, pose& target)
+{
+    if (numbers == nullptr)
+    {
+        const double joints[joint_count] = {35, 10, 75, -20, 50, 15};
+        return is_ok("target",
+                     qorin_rpc_robot_util_joint_angle_to_pose_convert(cbox_id, robot_id, QORIN_POSE_TYPE_FLANGE, joints,
+                                                                      target.position, target.orientation));
+    }
+    for (int i = 0; i < 3; ++i)
+    {
+        target.position[i] = std::strtod(numbers[i], nullptr);
+        target.orientation[i] = std::strtod(numbers[i + 3], nullptr);
+    }
+    return true;
+}
+
+void print_joints(const char* name, const double* joints)
+{
+    std::printf("%-10s", name);
+    for (int joint = 0; joint < joint_count; ++joint)
+        std::printf(" %9.3f", joints[joint]);
+    std::printf("\n");
+}
+
+bool print_all_solutions(unsigned int cbox_id, unsigned int robot_id, const pose& target)
+{
+    double joints[solution_count][joint_count] = {};
+    bool valid[solution_count] = {};
+    if (!is_ok("all solutions", qorin_rpc_robot_util_pose_to_joint_all_possible_angle_convert(
+                                    cbox_id, robot_id, target.position, target.orientation, joints[0], valid)))
+        return false;
+    std::printf("%-10s %9s %9s %9s %9s %9s %9s\n", "solution", "joint 0", "1", "2", "3", "4", "5");
+    for (int i = 0; i < solution_count; ++i)
+    {
+        const char name[] = {static_cast<char>('0' + i), '\0'};
+        if (valid[i])
+            print_joints(name, joints[i]);
+        else
+            std::printf("%-10s %9s\n", name, "none");
+    }
+    return true;
+}
+
+/// Goes from the reference to the target in small steps, as a controller that follows a straight line would.
+bool approach(unsigned int cbox_id, unsigned int robot_id, const pose& target)
+{
+    double joints[joint_count] = {};
+    if (!is_ok("approach", qorin_rpc_robot_util_pose_to_joint_angle_convert_iterative(
+                               cbox_id, robot_id, QORIN_POSE_TYPE_FLANGE, reference, target.position,
+                               target.orientation, steps, joints)))
+        return false;
+    std::printf("\napproach in %u steps\n", steps);
+    print_joints("from", reference);
+    print_joints("to", joints);
+    return true;
+}
+
+bool solve(unsigned int cbox_id, unsigned int robot_id, char** numbers)
+{
+    pose target = {};
+    if (!find_target(cbox_id, robot_id, numbers, target))
+        return false;
+    std::printf("flange at %.3f %.3f %.3f, orientation %.3f %.3f %.3f\n\n", target.position[0], target.position[1],
+                target.position[2], target.orientation[0], target.orientation[1], target.orientation[2]);
+    return print_all_solutions(cbox_id, robot_id, target) && approach(cbox_id, robot_id, target);
+}
+} // namespace
+
+int main(int argc, char** argv)
+{
+    if (argc != 3 && argc != 9)
+    {
+        std::fprintf(stderr, "usage: inverse_kinematics ADDRESS CONFIG [X Y Z RX RY RZ]\n");
+        return 1;
+    }
+    std::signal(SIGPIPE, SIG_IGN);
+
+    unsigned int cbox_id = 0;
+    unsigned int robot_id[32] = {};
+    if (!is_ok("connect", qorin_rpc_system_cbox_connect(argv[2], argv[1], &cbox_id)) || !take_control(cbox_id) ||
+        !is_ok("create robot", qorin_rpc_robot_create(cbox_id, QORIN_ROBOT_MODEL_ARM_C, text, 0, robot_id)))
+        return 1;
+    std::this_thread::sleep_for(std::chrono::milliseconds(50)); // a few frames with the robot in them
+
+    const bool solved = solve(cbox_id, robot_id[0], argc == 9 ? argv + 3 : nullptr);
+    const bool ended = is_ok("destroy robot", qorin_rpc_robot_destroy(cbox_id, robot_id[0]));
+    return is_ok("release control", qorin_rpc_system_control_release(cbox_id)) && ended && solved ? 0 : 1;
+}
