@@ -15,7 +15,8 @@ QORIN_API_C_BEGIN
 
 /**
  * Sends the messages of the lower layers to the log transport from now on, when `server.log_trans` is "on" in the
- * configuration. Without this call they go to standard output, when `client.log_print_out` is "on".
+ * configuration; with that off they are dropped. Without this call they go to standard output, when
+ * `client.log_print_out` is "on".
  *
  * Local; does not block. Any thread.
  */

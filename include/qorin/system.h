@@ -55,6 +55,7 @@ QORIN_API_C_BEGIN
  *
  * In C++, std::logic_error is thrown when config_path is null and SAVRENT_V3 is not set, a file system exception when
  * the log directories cannot be made, and std::system_error when a thread cannot be started.
+ * After one of the first two the next call begins anew; a configuration that was loaded stays.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_system_cbox_connect(const char* config_path, const char* address,
                                                          unsigned int* cbox_id);

@@ -11,6 +11,17 @@
 
 namespace savrent::cc
 {
+namespace
+{
+/// There is no path that a report could name, so the caller gets the text itself.
+[[noreturn]] void throw_without_path()
+{
+    const std::logic_error failure("configuration file load fauilure: no path is given and SAVRENT_V3 is not set");
+    QORIN_DEBUG_PRINT(QORIN_LOG_TYPE_ERROR, "%s\n", failure.what());
+    throw failure;
+}
+} // namespace
+
 bool config_parser::load_file(const char* path)
 {
     if (is_loaded())
@@ -22,7 +33,7 @@ bool config_parser::load_file(const char* path)
     else if (const char* installation = std::getenv("SAVRENT_V3"))
         file = std::string(installation) + "/config/config.ini";
     else
-        throw std::logic_error("configuration file load fauilure: no path is given and SAVRENT_V3 is not set");
+        throw_without_path();
 
     try
     {
