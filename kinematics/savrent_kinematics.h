@@ -4,9 +4,10 @@
  * the arms that it serves. Write a module of your own against this header and put it into the directory that the key
  * client.kinematics_path of config.ini names.
  *
- * Loading. The client opens every file of that directory that ends in ".so", asks it for its models, and keeps the
- * first one that serves the model of the robot. The directory must hold kinematics modules only: a shared object
- * without these symbols ends the search for all models. All twelve functions have to be there.
+ * Loading. The client opens every file of that directory whose name ends in ".so", or in ".so" and one more character
+ * (an editor's "x.so~" too), asks it for its models, and keeps the first one that serves the model of the robot. The
+ * directory must hold kinematics modules only: a file of such a name that is no shared object or lacks these symbols
+ * ends the search for all models. All twelve functions have to be there.
  *
  * Units. Joint angles and orientations are in degrees, positions in the unit of the control box's poses; nobody scales
  * on the way. The arms that the shipped module knows are in millimetres; with a table of another unit it takes and
@@ -14,8 +15,8 @@
  * pose is the pose of the flange seen from the robot's base; tools are the client's business.
  *
  * Shapes. A position and an orientation are 3 doubles each; a joint array has one double per joint, from the base to
- * the flange. The client's joint arrays hold 6 doubles, so a module may have up to 6 joints. Arrays belong to the
- * caller and are never kept. An input and an output may be the same array.
+ * the flange. The client's joint arrays hold 6 doubles, so a module may have up to 6 joints; one with more is passed
+ * over. Arrays belong to the caller and are never kept. An input and an output may be the same array.
  *
  * Results. A char result of 1 is success, anything else failure; on failure outputs stay as they were.
  *

@@ -145,7 +145,15 @@ bool robot_kinematics::serves(const std::string& file, QORIN_ROBOT_MODEL model)
     }
     get_model_name(models.data());
     const auto end = models.begin() + static_cast<std::ptrdiff_t>(count);
-    return std::find(models.begin(), end, static_cast<int>(model)) != end;
+    if (std::find(models.begin(), end, static_cast<int>(model)) == end)
+        return false;
+    // The module itself writes into the joint buffers, and it writes as many joints as it has.
+    if (num_of_joints_ > joint_limit)
+    {
+        QORIN_DEBUG_PRINT(QORIN_LOG_TYPE_ERROR, "too many joints in kinematics module: %s\n", file.c_str());
+        return false;
+    }
+    return true;
 }
 
 void robot_kinematics::use_module(const std::string& file, QORIN_ROBOT_MODEL model)
@@ -187,7 +195,7 @@ void robot_kinematics::use_default_kinematics()
     loaded_ = true;
 }
 
-/// How many values of a joint array count: the buffers hold no more, whatever a file reports.
+/// How many values of a joint array count: the buffers hold no more, whatever a file that was asked in vain reported.
 std::uint32_t robot_kinematics::joint_count() const
 {
     return std::min<std::uint32_t>(num_of_joints_, joint_limit);

@@ -119,6 +119,17 @@ TEST_F(robot_kinematics_search, asks_each_candidate_and_tells_the_module_the_wan
     EXPECT_EQ("", second.calls());
 }
 
+TEST_F(robot_kinematics_search, passes_over_a_module_with_more_joints_than_the_buffers_hold)
+{
+    module_record module(put_module(QORIN_RECORDING_MODULE, directory, "module.so"));
+    setenv("RECORDING_MODULE_PRETENDS_JOINTS", "7", 1);
+    EXPECT_EQ("0 " + path_line + "too many joints in kinematics module: " + (directory / "module.so").string() +
+                  "\ncannot find robot kinematics module, model: QORIN_ROBOT_MODEL_ARM_A\n",
+              search(QORIN_ROBOT_MODEL_ARM_A));
+    unsetenv("RECORDING_MODULE_PRETENDS_JOINTS");
+    EXPECT_EQ("", module.calls());
+}
+
 TEST_F(robot_kinematics_search, falls_back_for_models_that_need_no_module)
 {
     EXPECT_EQ("1 " + path_line + "cannot find kinemaitcs module, set default kinematics. robot model: 401506\n",
