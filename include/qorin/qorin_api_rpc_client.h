@@ -15,6 +15,7 @@
 #include "qorin/robot.h"
 #include "qorin/robot_external_move_status.h"
 #include "qorin/robot_force_status.h"
+#include "qorin/robot_joint_chaser.h"
 #include "qorin/robot_safety_status.h"
 #include "qorin/robot_status.h"
 #include "qorin/robot_tool_status.h"
