@@ -53,10 +53,17 @@ QORIN_API_RESULT dh_parameter_set(box_model& model, client_id, request_reader& a
     return model.robots().set_table(id, table);
 }
 
+QORIN_API_RESULT joint_chaser_state_set(box_model& model, client_id, request_reader& arguments, reply_writer&)
+{
+    const auto id = arguments.next_u32();
+    return model.robots().set_joint_chaser(id, arguments.next_enum<QORIN_SWITCH>());
+}
+
 constexpr command_row rows[] = {
     {"qorin_robot_create", in_control<create>},
     {"qorin_robot_destroy", in_control<destroy>},
     {"qorin_robot_kinematics_dh_parameter_set", in_control<dh_parameter_set>},
+    {"qorin_robot_joint_chaser_state_set", in_control<joint_chaser_state_set>},
 };
 } // namespace
 
