@@ -12,7 +12,7 @@ namespace
 using savrent::kinematics::joint_array;
 using savrent::kinematics::joint_range;
 
-constexpr double chase_time = 0.02;       // seconds in which an arm at rest would cover all but 1/e of the way
+constexpr double chase_time = 0.02;       // seconds in which all but 1/e of a way is covered
 constexpr double arrival_distance = 1e-9; // degrees
 
 /// Upper arm upright and forearm level on every arm, whatever its angles are counted from.

@@ -3,7 +3,8 @@
 #include <cmath>
 #include <cstring>
 #include <limits>
-#include <vector>
+#include <optional>
+#include <system_error>
 
 #include <gtest/gtest.h>
 
