@@ -8,6 +8,7 @@
 #include "rpc/wrapper.h"
 
 using qorin_api_rpc::command;
+using qorin_api_rpc::logged_local_call;
 using qorin_api_rpc::qorin_rpc_event;
 
 namespace
@@ -21,38 +22,24 @@ QORIN_API_RESULT ask_dispatcher(unsigned int cbox_id, QORIN_API_RESULT (qorin_rp
     const std::shared_ptr<qorin_rpc_event> dispatcher = client == nullptr ? nullptr : client->get_event();
     return dispatcher == nullptr ? QORIN_API_RESULT_OK : (dispatcher.get()->*operation)(arguments...);
 }
-
-/// A registration: call lock and call line like a command, then the dispatcher; nothing is sent.
-template <qorin_api_rpc::wire_name_text Name, class Ask, class... Shown>
-QORIN_API_RESULT registration(Ask&& ask, Shown... shown)
-{
-    return qorin_api_rpc::logged_call<Name>(
-        [&]
-        {
-            const QORIN_API_RESULT result = ask();
-            qorin_internal_func_call_set_zero();
-            return result;
-        },
-        shown...);
-}
 } // namespace
 
 QORIN_API_RESULT qorin_rpc_system_event_callback_add(unsigned int cbox_id, qorin_event_callback callback)
 {
-    return registration<"qorin_system_event_callback_add">(
+    return logged_local_call<"qorin_system_event_callback_add">(
         [=] { return ask_dispatcher(cbox_id, &qorin_rpc_event::event_callback_add, callback); }, cbox_id, callback);
 }
 
 QORIN_API_RESULT qorin_rpc_system_event_callback_remove(unsigned int cbox_id, qorin_event_callback callback)
 {
-    return registration<"qorin_system_event_callback_remove">(
+    return logged_local_call<"qorin_system_event_callback_remove">(
         [=] { return ask_dispatcher(cbox_id, &qorin_rpc_event::event_callback_remove, callback); }, cbox_id, callback);
 }
 
 QORIN_API_RESULT qorin_rpc_system_event_group_callback_add(unsigned int cbox_id, qorin_event_callback callback,
                                                            unsigned int group)
 {
-    return registration<"qorin_system_event_group_callback_add">(
+    return logged_local_call<"qorin_system_event_group_callback_add">(
         [=] { return ask_dispatcher(cbox_id, &qorin_rpc_event::event_group_callback_add, callback, group); }, cbox_id,
         callback, group);
 }
@@ -60,7 +47,7 @@ QORIN_API_RESULT qorin_rpc_system_event_group_callback_add(unsigned int cbox_id,
 QORIN_API_RESULT qorin_rpc_system_event_group_callback_remove(unsigned int cbox_id, qorin_event_callback callback,
                                                               unsigned int group)
 {
-    return registration<"qorin_system_event_group_callback_remove">(
+    return logged_local_call<"qorin_system_event_group_callback_remove">(
         [=] { return ask_dispatcher(cbox_id, &qorin_rpc_event::event_group_callback_remove, callback, group); },
         cbox_id, callback, group);
 }
@@ -68,7 +55,7 @@ QORIN_API_RESULT qorin_rpc_system_event_group_callback_remove(unsigned int cbox_
 QORIN_API_RESULT qorin_rpc_system_event_group_subgroup_callback_add(unsigned int cbox_id, qorin_event_callback callback,
                                                                     unsigned int group, unsigned int subgroup)
 {
-    return registration<"qorin_system_event_group_subgroup_callback_add">(
+    return logged_local_call<"qorin_system_event_group_subgroup_callback_add">(
         [=]
         { return ask_dispatcher(cbox_id, &qorin_rpc_event::event_group_subgroup_callback_add, callback, subgroup); },
         cbox_id, callback, group, subgroup);
@@ -78,7 +65,7 @@ QORIN_API_RESULT qorin_rpc_system_event_group_subgroup_callback_remove(unsigned 
                                                                        qorin_event_callback callback,
                                                                        unsigned int group, unsigned int subgroup)
 {
-    return registration<"qorin_system_event_group_subgroup_callback_remove">(
+    return logged_local_call<"qorin_system_event_group_subgroup_callback_remove">(
         [=]
         { return ask_dispatcher(cbox_id, &qorin_rpc_event::event_group_subgroup_callback_remove, callback, subgroup); },
         cbox_id, callback, group, subgroup);

@@ -56,6 +56,19 @@ auto logged_call(Work&& work, Params... params)
     return work();
 }
 
+/// A logged call whose work is done on this side. What sends a command in its work has that under the line of this one.
+template <wire_name_text WireName, class Work, class... Params>
+QORIN_API_RESULT logged_local_call(Work&& work, Params... params)
+{
+    const auto finish = [&]
+    {
+        const QORIN_API_RESULT result = work();
+        qorin_internal_func_call_set_zero();
+        return result;
+    };
+    return logged_call<WireName>(finish, params...);
+}
+
 /// A command: call lock, call line, one request and its reply.
 template <wire_name_text WireName, class... Params>
 QORIN_API_RESULT command(unsigned int cbox_id, Params... params)

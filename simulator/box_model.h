@@ -63,6 +63,9 @@ public:
     QORIN_API_RESULT release_control(client_id client);
     [[nodiscard]] bool holds_control(client_id client) const { return control_owner_ == client; }
 
+    /// Lets one control cycle pass.
+    void run_cycle() { robots_.advance(control_cycle_us_ * 1e-6); }
+
     /// The flag is acted upon by whoever serves the links, once the reply is on its way.
     QORIN_API_RESULT request_exit(client_id client);
 

@@ -56,7 +56,7 @@ control_box_counters control_box::counters() const
         return {};
     const auto& counters = box_->counters();
     return {counters.clients_connected, counters.clients_accepted, counters.commands_served, counters.frames_sent,
-            counters.frames_skipped};
+            counters.frames_skipped,    counters.chaser_taken,     counters.chaser_ignored};
 }
 
 void control_box::with_model(const std::function<void(box_model&)>& use)

@@ -33,6 +33,8 @@ struct control_box_counters
     std::uint64_t commands_served;   ///< replies made, unknown commands included
     std::uint64_t frames_sent;       ///< whole frames, over all clients
     std::uint64_t frames_skipped;    ///< frames that a slow reader was not given
+    std::uint64_t chaser_taken;      ///< datagrams of joint streams that a robot follows
+    std::uint64_t chaser_ignored;    ///< datagrams at the streams' ports that told no robot anything
 };
 
 class running_box;

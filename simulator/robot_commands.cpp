@@ -46,10 +46,16 @@ QORIN_API_RESULT dh_parameter_set(robot_state& robot, std::uint32_t count, const
     return robot.set_table(table);
 }
 
+QORIN_API_RESULT joint_chaser_state_set(robot_state& robot, QORIN_SWITCH value)
+{
+    return robot.set_joint_chaser(value);
+}
+
 constexpr command_row rows[] = {
     controlled<create>("qorin_robot_create"),
     controlled<destroy>("qorin_robot_destroy"),
     controlled<dh_parameter_set>("qorin_robot_kinematics_dh_parameter_set"),
+    controlled<joint_chaser_state_set>("qorin_robot_joint_chaser_state_set"),
 };
 } // namespace
 

@@ -7,7 +7,7 @@
 
 namespace cbox_simulator
 {
-/// Robots come and go, and get their kinematics. All of it needs the control.
+/// Robots come and go, get their kinematics, and begin and end to follow streamed targets. All of it needs the control.
 [[nodiscard]] std::span<const command_row> robot_commands();
 } // namespace cbox_simulator
 

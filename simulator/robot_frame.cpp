@@ -45,10 +45,9 @@ void render_switches(const robot_switches& switches, robot_data_t& record)
     record.acc_dec_auto_adjustment = switches.acc_dec_auto_adjustment;
 }
 
-/// What the box does not do yet: no force control, no external profiler, no conveyor tracking, no motion.
+/// What the box does not do yet: no force control, no external profiler, no conveyor tracking.
 void render_idle_functions(robot_data_t& record)
 {
-    record.state_moving = QORIN_MOVING_STATE_IDLE;
     record.conveyor_mode = QORIN_CONVEYOR_MODE_OFF;
     record.ext_profiler_switch = QORIN_SWITCH_OFF;
     record.ext_profiler_period = 1;
@@ -82,16 +81,17 @@ void render_limits(const robot_settings& settings, robot_data_t& record)
 void render_poses(const robot_state& robot, robot_data_t& record)
 {
     put(record.tcp_from_flange, robot.tcp_from_flange());
-    put(record.tcp_pose_command, robot.tcp_pose());
+    put(record.tcp_pose_command, robot.commanded().tcp);
     put(record.tcp_pose_actual, robot.tcp_pose());
-    put(record.flange_pose_command, robot.flange_pose());
+    put(record.flange_pose_command, robot.commanded().flange);
     put(record.flange_pose_actual, robot.flange_pose());
 }
 
 void render_joint(const robot_state& robot, std::size_t joint, joint_data_t& record)
 {
-    record.angle_command = robot.joint_angles()[joint];
+    record.angle_command = robot.commanded().joints[joint];
     record.angle_actual = robot.joint_angles()[joint];
+    record.speed_actual = robot.joint_speeds()[joint];
     // Readers hand out the second element first: least, then greatest angle.
     const auto& spec = robot.arm().joints[joint];
     record.spec_angle[0] = spec.angle_max;
@@ -147,6 +147,7 @@ void render_robot(std::uint32_t id, const robot_state& robot, shared_data_t& fra
     record.number_of_joints = joint_count;
     record.model_name = robot.arm().model;
     record.control_mode = settings.control_mode;
+    record.state_moving = robot.moving_state();
     record.speed_factor = settings.speed_factor;
     record.tcp_payload[0] = settings.tcp_payload.mass;
     put(&record.tcp_payload[1], settings.tcp_payload.centre_of_mass);

@@ -35,6 +35,15 @@ robot_state* robot_set::find(std::uint32_t id)
     return id < robot_limit && robots_[id] ? &*robots_[id] : nullptr;
 }
 
+void robot_set::advance(double seconds)
+{
+    for (auto& robot : robots_)
+    {
+        if (robot)
+            robot->advance(seconds);
+    }
+}
+
 std::uint32_t robot_set::record_count() const
 {
     std::uint32_t count = robot_limit;

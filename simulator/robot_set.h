@@ -58,6 +58,14 @@ public:
         return change<&robot_state::set_servo>(id, value);
     }
 
+    QORIN_API_RESULT set_joint_chaser(std::uint32_t id, QORIN_SWITCH value)
+    {
+        return change<&robot_state::set_joint_chaser>(id, value);
+    }
+
+    /// Lets time pass for all robots.
+    void advance(double seconds);
+
 private:
     template <auto operation, class Value>
     QORIN_API_RESULT change(std::uint32_t id, const Value& value)

@@ -12,6 +12,9 @@ namespace
 using savrent::kinematics::joint_array;
 using savrent::kinematics::joint_range;
 
+constexpr double chase_time = 0.02;       // seconds in which all but 1/e of a way is covered
+constexpr double arrival_distance = 1e-9; // degrees
+
 /// Upper arm upright and forearm level on every arm, whatever its angles are counted from.
 joint_array ready_angles(QORIN_ROBOT_MODEL model)
 {
@@ -34,19 +37,21 @@ bool is_within(double angle, const joint_range& range)
 }
 } // namespace
 
-robot_state::robot_state(const savrent::kinematics::arm_model& arm)
-    : arm_(&arm), solver_(arm.table), joint_angles_(ready_angles(arm.model))
+robot_state::robot_state(const savrent::kinematics::arm_model& arm) : arm_(&arm), solver_(arm.table)
 {
     settings_.safety_joints = arm.joints;
-    follow_joints();
+    actual_.joints = ready_angles(arm.model);
+    follow_joints(actual_);
+    stand_still();
 }
 
 QORIN_API_RESULT robot_state::set_joint_angles(const joint_array& angles)
 {
     if (!std::ranges::equal(angles, arm_->joints, is_within))
         return QORIN_API_RESULT_ERROR_ROBOT_JOINT_PARAM_OUT_OF_RANGE;
-    joint_angles_ = angles;
-    follow_joints();
+    actual_.joints = angles;
+    follow_joints(actual_);
+    stand_still();
     return QORIN_API_RESULT_OK;
 }
 
@@ -55,7 +60,8 @@ QORIN_API_RESULT robot_state::set_tcp_from_flange(const pose& tcp_from_flange)
     if (!is_finite(tcp_from_flange))
         return QORIN_API_RESULT_ERROR_ROBOT_PARAM_OUT_OF_RANGE;
     tcp_from_flange_ = tcp_from_flange;
-    follow_tool();
+    follow_tool(actual_);
+    follow_tool(commanded_);
     return QORIN_API_RESULT_OK;
 }
 
@@ -65,7 +71,8 @@ QORIN_API_RESULT robot_state::set_table(const dh_table& table)
     if (!describes_an_arm(table) || !std::isfinite(total_length(table)))
         return QORIN_API_RESULT_ERROR_ROBOT_PARAM_OUT_OF_RANGE;
     solver_ = savrent::kinematics::arm_solver(table);
-    follow_joints();
+    follow_joints(actual_);
+    follow_joints(commanded_);
     return QORIN_API_RESULT_OK;
 }
 
@@ -77,15 +84,74 @@ QORIN_API_RESULT robot_state::set_servo(QORIN_SWITCH value)
     return QORIN_API_RESULT_OK;
 }
 
-void robot_state::follow_joints()
+QORIN_API_RESULT robot_state::set_joint_chaser(QORIN_SWITCH value)
 {
-    const auto [position, orientation] = solver_.forward(joint_angles_);
-    flange_pose_ = {position[0], position[1], position[2], orientation[0], orientation[1], orientation[2]};
-    follow_tool();
+    if (!is_switch(value))
+        return QORIN_API_RESULT_ERROR_ROBOT_PARAM_OUT_OF_RANGE;
+    const bool rests = moving_state_ == QORIN_MOVING_STATE_IDLE || moving_state_ == QORIN_MOVING_STATE_STOPPED;
+    if (value == QORIN_SWITCH_ON && !rests)
+        return QORIN_API_RESULT_ROBOT_IS_MOVING_STATE;
+    settings_.switches.joint_chaser = value;
+    stand_still();
+    return QORIN_API_RESULT_OK;
 }
 
-void robot_state::follow_tool()
+bool robot_state::chase(const joint_array& targets)
 {
-    tcp_pose_ = placed(flange_pose_, tcp_from_flange_);
+    if (!chases() || !std::ranges::all_of(targets, [](double target) { return std::isfinite(target); }))
+        return false;
+    for (std::size_t joint = 0; joint < targets.size(); ++joint)
+    {
+        const auto& range = arm_->joints[joint];
+        commanded_.joints[joint] = std::clamp(targets[joint], range.angle_min, range.angle_max);
+    }
+    follow_joints(commanded_);
+    return true;
+}
+
+bool robot_state::stop_chasing()
+{
+    if (!chases())
+        return false;
+    stand_still();
+    return true;
+}
+
+void robot_state::advance(double seconds)
+{
+    if (!chases())
+        return;
+    const double share = 1 - std::exp(-seconds / chase_time);
+    bool moves = false;
+    for (std::size_t joint = 0; joint < joint_speeds_.size(); ++joint)
+    {
+        const double way = commanded_.joints[joint] - actual_.joints[joint];
+        const double longest = settings_.safety_joints[joint].speed_max * seconds;
+        const double wanted = std::abs(way) < arrival_distance ? way : way * share;
+        const double step = std::min(std::abs(wanted), longest);
+        actual_.joints[joint] += std::copysign(step, way);
+        joint_speeds_[joint] = std::copysign(step, way) / seconds;
+        moves = moves || step != 0;
+    }
+    if (moves)
+        follow_joints(actual_);
+}
+
+void robot_state::stand_still()
+{
+    commanded_ = actual_;
+    joint_speeds_ = {};
+}
+
+void robot_state::follow_joints(stance& which) const
+{
+    const auto [position, orientation] = solver_.forward(which.joints);
+    which.flange = {position[0], position[1], position[2], orientation[0], orientation[1], orientation[2]};
+    follow_tool(which);
+}
+
+void robot_state::follow_tool(stance& which) const
+{
+    which.tcp = placed(which.flange, tcp_from_flange_);
 }
 } // namespace cbox_simulator

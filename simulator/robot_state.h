@@ -9,11 +9,20 @@
 
 namespace cbox_simulator
 {
+/// Joints, and the poses that they make.
+struct stance
+{
+    savrent::kinematics::joint_array joints{};
+    pose flange{};
+    pose tcp{};
+};
+
 /**
  * One robot: its arm, where it stands, and what it is set to.
  *
- * The drives are ideal, so that what is commanded and what is measured are one. The poses are computed when the
- * joints, the table or the tool change; reading them costs nothing. An operation that refuses changes nothing.
+ * The drives are ideal, so that what is commanded and what is measured are one, save while the arm runs after streamed
+ * targets. The poses are computed when the joints, the table or the tool change; reading them costs nothing. An
+ * operation that refuses changes nothing.
  */
 class robot_state
 {
@@ -26,10 +35,13 @@ public:
 
     [[nodiscard]] const savrent::kinematics::arm_model& arm() const { return *arm_; }
     [[nodiscard]] const dh_table& table() const { return solver_.table(); }
-    [[nodiscard]] const joint_array& joint_angles() const { return joint_angles_; }
+    [[nodiscard]] const joint_array& joint_angles() const { return actual_.joints; }
+    [[nodiscard]] const joint_array& joint_speeds() const { return joint_speeds_; } ///< Degrees per second.
     [[nodiscard]] const pose& tcp_from_flange() const { return tcp_from_flange_; }
-    [[nodiscard]] const pose& flange_pose() const { return flange_pose_; }
-    [[nodiscard]] const pose& tcp_pose() const { return tcp_pose_; }
+    [[nodiscard]] const pose& flange_pose() const { return actual_.flange; }
+    [[nodiscard]] const pose& tcp_pose() const { return actual_.tcp; }
+    [[nodiscard]] const stance& commanded() const { return commanded_; }
+    [[nodiscard]] QORIN_MOVING_STATE moving_state() const { return moving_state_; }
     [[nodiscard]] const robot_settings& settings() const { return settings_; }
     [[nodiscard]] robot_settings& settings() { return settings_; }
 
@@ -43,16 +55,37 @@ public:
     QORIN_API_RESULT set_table(const dh_table& table);
     QORIN_API_RESULT set_servo(QORIN_SWITCH value);
 
+    /// What a motion does. Running after streamed targets is none: clients end their stream when they see a motion.
+    void set_moving_state(QORIN_MOVING_STATE state) { moving_state_ = state; }
+
+    /// Makes the arm run after streamed targets, or stand still again. A number that is no switch is
+    /// QORIN_API_RESULT_ERROR_ROBOT_PARAM_OUT_OF_RANGE; switching on while a motion runs is
+    /// QORIN_API_RESULT_ROBOT_IS_MOVING_STATE.
+    QORIN_API_RESULT set_joint_chaser(QORIN_SWITCH value);
+
+    /// The next streamed target; what is beyond the arm's range becomes the end of the range. False when the chaser is
+    /// off or a target is no finite number.
+    bool chase(const joint_array& targets);
+
+    /// Ends the run after the last target where the arm is. False when the chaser is off.
+    bool stop_chasing();
+
+    /// Lets time pass: each joint nears its target by a share of the way, no faster than its safety limit.
+    void advance(double seconds);
+
 private:
-    void follow_joints();
-    void follow_tool();
+    [[nodiscard]] bool chases() const { return settings_.switches.joint_chaser == QORIN_SWITCH_ON; }
+    void stand_still();
+    void follow_joints(stance& which) const;
+    void follow_tool(stance& which) const;
 
     const savrent::kinematics::arm_model* arm_;
     savrent::kinematics::arm_solver solver_;
-    joint_array joint_angles_;
     pose tcp_from_flange_{};
-    pose flange_pose_{};
-    pose tcp_pose_{};
+    stance actual_;
+    stance commanded_;
+    joint_array joint_speeds_{};
+    QORIN_MOVING_STATE moving_state_ = QORIN_MOVING_STATE_IDLE;
     robot_settings settings_;
 };
 } // namespace cbox_simulator

@@ -64,10 +64,12 @@ running_box::running_box(const control_box_options& options)
     : log_(options.log, options.level), on_exit_(options.on_exit),
       model_(checked(options).version_text, 1e6 / options.rate),
       environment_({model_, commands_, log_, counters_, [this] { deliver_events(); }, [this] { end_on_request(); }}),
-      links_(io_, environment_), frame_clock_(io_, period_of(options.rate), [this] { run_cycle(); }),
-      farewell_timer_(io_)
+      links_(io_, environment_), joint_chaser_(io_, environment_),
+      frame_clock_(io_, period_of(options.rate), [this] { run_cycle(); }), farewell_timer_(io_)
 {
-    port_ = links_.listen(endpoint_of(options)).port();
+    const auto endpoint = endpoint_of(options);
+    port_ = links_.listen(endpoint).port();
+    joint_chaser_.listen(endpoint.address());
 }
 
 void running_box::launch(const control_box* owner)
@@ -115,6 +117,7 @@ const control_box* running_box::served_by_this_thread()
 
 void running_box::run_cycle()
 {
+    model_.run_cycle();
     deliver_events();
     render_frame(model_, frame_);
     const std::span bytes(reinterpret_cast<const std::byte*>(&frame_), sizeof frame_);
@@ -168,5 +171,6 @@ void running_box::close()
     frame_clock_.stop();
     farewell_timer_.cancel();
     links_.close();
+    joint_chaser_.close();
 }
 } // namespace cbox_simulator

@@ -13,6 +13,7 @@
 #include "protocol/status_frame.h"
 #include "simulator/control_box.h"
 #include "simulator/frame_clock.h"
+#include "simulator/joint_chaser.h"
 #include "simulator/link_acceptor.h"
 
 namespace cbox_simulator
@@ -64,6 +65,7 @@ private:
     box_counters counters_;
     session_environment environment_;
     link_acceptor links_;
+    joint_chaser joint_chaser_;
     frame_clock frame_clock_;
     boost::asio::steady_timer farewell_timer_;
     clock::time_point farewell_deadline_;

@@ -19,6 +19,8 @@ struct box_counters
     std::atomic<std::uint64_t> commands_served{0};   ///< replies made, unknown commands included
     std::atomic<std::uint64_t> frames_sent{0};       ///< whole frames, over all clients
     std::atomic<std::uint64_t> frames_skipped{0};    ///< frames that a slow reader was not given
+    std::atomic<std::uint64_t> chaser_taken{0};      ///< datagrams of joint streams that a robot follows
+    std::atomic<std::uint64_t> chaser_ignored{0};    ///< datagrams at the streams' ports that told no robot anything
 };
 
 /// What a client's session needs of the box that it belongs to. Owned by the box, outlives every session.

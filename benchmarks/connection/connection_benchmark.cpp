@@ -11,10 +11,13 @@
 #include <thread>
 #include <vector>
 
+#include <arpa/inet.h>
+#include <sys/socket.h>
 #include <unistd.h>
 
 #include "benchmarks/connection/raw_client.h"
 #include "benchmarks/connection/server_process.h"
+#include "protocol/chaser_datagram.h"
 #include "qorin/qorin_api_rpc_client.h"
 
 namespace
@@ -58,7 +61,9 @@ std::string own_address()
 
 unsigned int connect_library(const std::string& directory, const std::string& address)
 {
-    std::ofstream(directory + "/config.ini") << "[client]\nlog_save_path=" << directory << "/log\nlog_print_out=off\n";
+    std::ofstream(directory + "/config.ini")
+        << "[client]\nlog_save_path=" << directory
+        << "/log\nlog_print_out=off\nkinematics_path=" QORIN_KINEMATICS_DIRECTORY "\n";
     setenv("SAVRENT_V3", directory.c_str(), 1);
     unsigned int cbox_id = 0;
     if (qorin_rpc_system_cbox_connect((directory + "/config.ini").c_str(), address.c_str(), &cbox_id) !=
@@ -118,6 +123,70 @@ void benchmark_round_trips(const std::string& directory, const std::string& addr
     std::printf("%-34s %12s %12.1f %8s %8s   (sum %u)\n", "getter, ns", "", nanoseconds / reads, "", "25", sum);
 }
 
+/// A robot that follows a stream of this process.
+unsigned int make_chasing_robot(unsigned int cbox_id, const std::string& address)
+{
+    const char text[128] = "benchmark";
+    unsigned int robot_id[32] = {};
+    if (qorin_rpc_gen_system_create(cbox_id, text, QORIN_CBOX_MODEL_3GEN_SIM) != QORIN_API_RESULT_OK ||
+        qorin_rpc_system_control_take(cbox_id) != QORIN_API_RESULT_OK ||
+        qorin_rpc_robot_create(cbox_id, QORIN_ROBOT_MODEL_ARM_A, text, 0, robot_id) != QORIN_API_RESULT_OK ||
+        qorin_rpc_robot_joint_chaser_ip_set(cbox_id, robot_id[0], address.c_str()) != QORIN_API_RESULT_OK ||
+        qorin_rpc_robot_joint_chaser_switch_set(cbox_id, robot_id[0], QORIN_SWITCH_ON) != QORIN_API_RESULT_OK)
+    {
+        std::fprintf(stderr, "cannot make a robot that follows a stream\n");
+        std::exit(1);
+    }
+    return robot_id[0];
+}
+
+/// A move of the joint chaser beside the same reads of the mirror and a plain datagram.
+void benchmark_chaser(const std::string& directory, const std::string& address)
+{
+    const unsigned int cbox_id = connect_library(directory, address);
+    run_anywhere();
+    const unsigned int robot_id = make_chasing_robot(cbox_id, address);
+    const int plain = socket(AF_INET, SOCK_DGRAM, 0);
+    sockaddr_in box{};
+    box.sin_family = AF_INET;
+    box.sin_port = htons(static_cast<std::uint16_t>(protocol::chaser_base_port + robot_id));
+    inet_pton(AF_INET, address.c_str(), &box.sin_addr);
+
+    protocol::chaser_datagram datagram = {protocol::chaser_move, {}};
+    double actual[6] = {};
+    const auto read_mirror = [&]
+    {
+        QORIN_SWITCH chaser = QORIN_SWITCH_OFF;
+        QORIN_MOVING_STATE moving = QORIN_MOVING_STATE_INVALID;
+        for (unsigned int joint = 0; joint < 6; ++joint)
+            qorin_rpc_robot_joint_angle_actual_get(cbox_id, robot_id, joint, &actual[joint]);
+        qorin_rpc_robot_joint_chaser_state_get(cbox_id, robot_id, &chaser);
+        qorin_rpc_robot_state_moving_get(cbox_id, robot_id, &moving);
+    };
+    read_mirror();
+    std::memcpy(datagram.joints, actual, sizeof actual);
+    double targets[6];
+    std::memcpy(targets, actual, sizeof targets);
+
+    delays of_plain;
+    delays of_library;
+    for (int i = 0; i < alternations; ++i)
+    {
+        of_plain.measure(round_trips / alternations,
+                         [&]
+                         {
+                             read_mirror();
+                             sendto(plain, &datagram, sizeof datagram, 0, reinterpret_cast<sockaddr*>(&box),
+                                    sizeof box);
+                         });
+        of_library.measure(round_trips / alternations,
+                           [&] { qorin_rpc_robot_joint_chaser_move(cbox_id, robot_id, 6, targets); });
+    }
+    close(plain);
+    std::printf("%-34s %12.2f %12.2f %8.2f %8s\n", "joint chaser move, median us", of_plain.quantile(0.5),
+                of_library.quantile(0.5), of_library.quantile(0.5) / of_plain.quantile(0.5), "1.30");
+}
+
 /// Processor time, in percent of one core, of `client` standing connected for a while.
 template <class Client>
 double receiving_share(Client&& client)
@@ -147,6 +216,16 @@ int main()
             [&]
             {
                 benchmark_round_trips(directory, address);
+                std::fflush(stdout);
+                return 0.0;
+            });
+    }
+    {
+        const benchmark_support::server_process server(address, frame_rate);
+        (void)benchmark_support::in_own_process(
+            [&]
+            {
+                benchmark_chaser(directory, address);
                 std::fflush(stdout);
                 return 0.0;
             });

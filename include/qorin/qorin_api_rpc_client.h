@@ -22,6 +22,7 @@
 #include "qorin/robot_external_move_status.h"
 #include "qorin/robot_force_control.h"
 #include "qorin/robot_force_status.h"
+#include "qorin/robot_joint_chaser.h"
 #include "qorin/robot_path.h"
 #include "qorin/robot_recording.h"
 #include "qorin/robot_safety_limit.h"
