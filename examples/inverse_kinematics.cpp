@@ -6,18 +6,14 @@
 // that it reaches. The configuration's `client.kinematics_path` names the directory of the kinematics modules. Nothing
 // moves.
 
-#include <chrono>
-#include <csignal>
 #include <cstdio>
 #include <cstdlib>
-#include <thread>
 
-#include <qorin/qorin_api_rpc_client.h>
+#include "session.h"
 
 namespace
 {
-/// Commands read 128 bytes from each text and output, so these stand in buffers of that size.
-const char text[128] = "inverse kinematics example";
+using example::is_ok;
 
 constexpr int joint_count = 6;
 constexpr int solution_count = 8;
@@ -29,22 +25,6 @@ struct pose
     double position[3];
     double orientation[3];
 };
-
-bool is_ok(const char* step, QORIN_API_RESULT result)
-{
-    if (result != QORIN_API_RESULT_OK)
-        std::fprintf(stderr, "%s: %u %s\n", step, static_cast<unsigned int>(result),
-                     qorin_system_api_result_string_get(result));
-    return result == QORIN_API_RESULT_OK;
-}
-
-/// Makes whatever stands ahead of a robot: the system and the control.
-bool take_control(unsigned int cbox_id)
-{
-    const QORIN_API_RESULT created = qorin_rpc_gen_system_create(cbox_id, text, QORIN_CBOX_MODEL_3GEN_SIM);
-    return (created == QORIN_API_RESULT_WARNING_SYSTEM_ALREADY_CREATED || is_ok("create system", created)) &&
-           is_ok("take control", qorin_rpc_system_control_take(cbox_id));
-}
 
 bool find_target(unsigned int cbox_id, unsigned int robot_id, char** numbers, pose& target)
 {
@@ -122,16 +102,14 @@ int main(int argc, char** argv)
         std::fprintf(stderr, "usage: inverse_kinematics ADDRESS CONFIG [X Y Z RX RY RZ]\n");
         return 1;
     }
-    std::signal(SIGPIPE, SIG_IGN);
 
     unsigned int cbox_id = 0;
-    unsigned int robot_id[32] = {};
-    if (!is_ok("connect", qorin_rpc_system_cbox_connect(argv[2], argv[1], &cbox_id)) || !take_control(cbox_id) ||
-        !is_ok("create robot", qorin_rpc_robot_create(cbox_id, QORIN_ROBOT_MODEL_ARM_C, text, 0, robot_id)))
+    unsigned int robot_id = 0;
+    if (!example::open_session(argv[1], argv[2], cbox_id) ||
+        !example::create_robot(cbox_id, QORIN_ROBOT_MODEL_ARM_C, robot_id))
         return 1;
-    std::this_thread::sleep_for(std::chrono::milliseconds(50)); // a few frames with the robot in them
 
-    const bool solved = solve(cbox_id, robot_id[0], argc == 9 ? argv + 3 : nullptr);
-    const bool ended = is_ok("destroy robot", qorin_rpc_robot_destroy(cbox_id, robot_id[0]));
-    return is_ok("release control", qorin_rpc_system_control_release(cbox_id)) && ended && solved ? 0 : 1;
+    const bool solved = solve(cbox_id, robot_id, argc == 9 ? argv + 3 : nullptr);
+    const bool ended = example::destroy_robot(cbox_id, robot_id);
+    return example::close_session(cbox_id) && ended && solved ? 0 : 1;
 }

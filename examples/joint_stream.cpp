@@ -8,23 +8,21 @@
 #include <algorithm>
 #include <chrono>
 #include <cmath>
-#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <numbers>
 #include <thread>
 
-#include <qorin/qorin_api_rpc_client.h>
+#include "session.h"
 
 namespace
 {
+using example::is_ok;
+
 constexpr auto period = std::chrono::milliseconds(4);
 constexpr double amplitude = 10.0;       // degrees
 constexpr double seconds_per_wave = 2.0; // the joint's highest speed is then 31 degrees per second
 constexpr double tolerated_error = 5.0;  // degrees
-
-/// Commands read 128 bytes from each text and output, so these stand in buffers of that size.
-const char text[128] = "joint stream example";
 
 struct stream_report
 {
@@ -32,22 +30,6 @@ struct stream_report
     int followed = 0; ///< targets at whose time the joint was no further off than tolerated
     double largest_error = 0;
 };
-
-bool is_ok(const char* step, QORIN_API_RESULT result)
-{
-    if (result != QORIN_API_RESULT_OK)
-        std::fprintf(stderr, "%s: %u %s\n", step, static_cast<unsigned int>(result),
-                     qorin_system_api_result_string_get(result));
-    return result == QORIN_API_RESULT_OK;
-}
-
-/// Makes whatever stands ahead of a robot: the system and the control.
-bool take_control(unsigned int cbox_id)
-{
-    const QORIN_API_RESULT created = qorin_rpc_gen_system_create(cbox_id, text, QORIN_CBOX_MODEL_3GEN_SIM);
-    return (created == QORIN_API_RESULT_WARNING_SYSTEM_ALREADY_CREATED || is_ok("create system", created)) &&
-           is_ok("take control", qorin_rpc_system_control_take(cbox_id));
-}
 
 /// False when the library refused a target; it has ended the stream then.
 bool stream_sine(unsigned int cbox_id, unsigned int robot_id, double seconds, stream_report& report)
@@ -96,24 +78,21 @@ int main(int argc, char** argv)
         std::fprintf(stderr, "usage: joint_stream ADDRESS CONFIG [SECONDS [MODEL]]\n");
         return 1;
     }
-    std::signal(SIGPIPE, SIG_IGN);
     const double seconds = argc > 3 ? std::atof(argv[3]) : 3.0;
     const auto model =
         argc > 4 ? static_cast<QORIN_ROBOT_MODEL>(std::strtoul(argv[4], nullptr, 10)) : QORIN_ROBOT_MODEL_ARM_C;
 
     unsigned int cbox_id = 0;
-    unsigned int robot_id[32] = {};
-    if (!is_ok("connect", qorin_rpc_system_cbox_connect(argv[2], argv[1], &cbox_id)) || !take_control(cbox_id) ||
-        !is_ok("create robot", qorin_rpc_robot_create(cbox_id, model, text, 0, robot_id)))
+    unsigned int robot_id = 0;
+    if (!example::open_session(argv[1], argv[2], cbox_id) || !example::create_robot(cbox_id, model, robot_id))
         return 1;
-    std::this_thread::sleep_for(std::chrono::milliseconds(50)); // a few frames with the robot in them
 
     stream_report report;
-    const bool streamed = chase(cbox_id, robot_id[0], argv[1], seconds, report);
+    const bool streamed = chase(cbox_id, robot_id, argv[1], seconds, report);
     std::printf("sent %d targets, followed %d, largest error %.3f degrees\n", report.sent, report.followed,
                 report.largest_error);
 
-    const bool ended = is_ok("destroy robot", qorin_rpc_robot_destroy(cbox_id, robot_id[0]));
-    const bool released = is_ok("release control", qorin_rpc_system_control_release(cbox_id));
+    const bool ended = example::destroy_robot(cbox_id, robot_id);
+    const bool released = example::close_session(cbox_id);
     return streamed && ended && released && report.followed == report.sent ? 0 : 1;
 }

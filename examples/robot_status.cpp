@@ -5,35 +5,13 @@
 // MODEL is the number of an arm model, 401510 to 401518. The configuration's `client.kinematics_path` names the
 // directory of the kinematics modules.
 
-#include <chrono>
-#include <csignal>
 #include <cstdio>
 #include <cstdlib>
-#include <thread>
 
-#include <qorin/qorin_api_rpc_client.h>
+#include "session.h"
 
 namespace
 {
-/// Commands read 128 bytes from each text, array and output, so these stand in buffers of that size.
-const char text[128] = "robot status example";
-
-bool is_ok(const char* step, QORIN_API_RESULT result)
-{
-    if (result != QORIN_API_RESULT_OK)
-        std::fprintf(stderr, "%s: %u %s\n", step, static_cast<unsigned int>(result),
-                     qorin_system_api_result_string_get(result));
-    return result == QORIN_API_RESULT_OK;
-}
-
-/// Makes whatever stands ahead of a robot: the system and the control.
-bool take_control(unsigned int cbox_id)
-{
-    const QORIN_API_RESULT created = qorin_rpc_gen_system_create(cbox_id, text, QORIN_CBOX_MODEL_3GEN_SIM);
-    return (created == QORIN_API_RESULT_WARNING_SYSTEM_ALREADY_CREATED || is_ok("create system", created)) &&
-           is_ok("take control", qorin_rpc_system_control_take(cbox_id));
-}
-
 void print_joints(unsigned int cbox_id, unsigned int robot_id)
 {
     unsigned int joints = 0;
@@ -118,22 +96,18 @@ int main(int argc, char** argv)
         std::fprintf(stderr, "usage: robot_status ADDRESS CONFIG [MODEL]\n");
         return 1;
     }
-    std::signal(SIGPIPE, SIG_IGN);
     const auto model =
         argc > 3 ? static_cast<QORIN_ROBOT_MODEL>(std::strtoul(argv[3], nullptr, 10)) : QORIN_ROBOT_MODEL_ARM_C;
 
     unsigned int cbox_id = 0;
-    unsigned int robot_id[32] = {};
-    if (!is_ok("connect", qorin_rpc_system_cbox_connect(argv[2], argv[1], &cbox_id)) || !take_control(cbox_id) ||
-        !is_ok("create robot", qorin_rpc_robot_create(cbox_id, model, text, 0, robot_id)))
+    unsigned int robot_id = 0;
+    if (!example::open_session(argv[1], argv[2], cbox_id) || !example::create_robot(cbox_id, model, robot_id))
         return 1;
+    std::printf("robot %u, model %u\n", robot_id, static_cast<unsigned int>(model));
+    print_joints(cbox_id, robot_id);
+    print_poses(cbox_id, robot_id);
+    print_tool(cbox_id, robot_id);
 
-    std::this_thread::sleep_for(std::chrono::milliseconds(50)); // a few frames with the robot in them
-    std::printf("robot %u, model %u\n", robot_id[0], static_cast<unsigned int>(model));
-    print_joints(cbox_id, robot_id[0]);
-    print_poses(cbox_id, robot_id[0]);
-    print_tool(cbox_id, robot_id[0]);
-
-    const bool ended = is_ok("destroy robot", qorin_rpc_robot_destroy(cbox_id, robot_id[0]));
-    return is_ok("release control", qorin_rpc_system_control_release(cbox_id)) && ended ? 0 : 1;
+    const bool ended = example::destroy_robot(cbox_id, robot_id);
+    return example::close_session(cbox_id) && ended ? 0 : 1;
 }
