@@ -66,6 +66,9 @@ public:
     /// The flag is acted upon by whoever serves the links, once the reply is on its way.
     QORIN_API_RESULT request_exit(client_id client);
 
+    /// To be called once in every control cycle.
+    void advance_one_cycle() { robots_.advance_one_cycle(); }
+
     /// To be told of every client that is gone, so that what it held becomes free. True when that was the control.
     bool forget_client(client_id client);
 

@@ -25,6 +25,15 @@ QORIN_API_RESULT robot_set::destroy(std::uint32_t id)
     return QORIN_API_RESULT_OK;
 }
 
+void robot_set::advance_one_cycle()
+{
+    for (auto& robot : robots_)
+    {
+        if (robot)
+            robot->advance_one_cycle();
+    }
+}
+
 const robot_state* robot_set::find(std::uint32_t id) const
 {
     return id < robot_limit && robots_[id] ? &*robots_[id] : nullptr;

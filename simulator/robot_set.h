@@ -38,6 +38,8 @@ public:
     /// How many records a frame needs, as they lie in the order of the ids: the highest id and one, or 0.
     [[nodiscard]] std::uint32_t record_count() const;
 
+    void advance_one_cycle();
+
     QORIN_API_RESULT set_joint_angles(std::uint32_t id, const robot_state::joint_array& angles)
     {
         return change<&robot_state::set_joint_angles>(id, angles);

@@ -1,11 +1,17 @@
 #ifndef SIMULATOR_ROBOT_STATE_H
 #define SIMULATOR_ROBOT_STATE_H
 
+#include <optional>
+
 #include "kinematics/arm_models.h"
 #include "kinematics/arm_solver.h"
 #include "qorin/result.h"
+#include "simulator/bounding_shape.h"
+#include "simulator/dynamics_calibration.h"
+#include "simulator/external_profiler.h"
 #include "simulator/pose.h"
 #include "simulator/robot_settings.h"
+#include "simulator/safety_planes.h"
 
 namespace cbox_simulator
 {
@@ -32,6 +38,12 @@ public:
     [[nodiscard]] const pose& tcp_pose() const { return tcp_pose_; }
     [[nodiscard]] const robot_settings& settings() const { return settings_; }
     [[nodiscard]] robot_settings& settings() { return settings_; }
+    [[nodiscard]] const safety_planes& planes() const { return planes_; }
+    [[nodiscard]] safety_planes& planes() { return planes_; }
+    [[nodiscard]] std::optional<bounding_shape>& tcp_shape() { return tcp_shape_; }
+    [[nodiscard]] const external_profiler& profiler() const { return profiler_; }
+    [[nodiscard]] external_profiler& profiler() { return profiler_; }
+    [[nodiscard]] dynamics_calibration& calibration() { return calibration_; }
 
     /// Puts the arm there at once. An angle beyond the arm's range is
     /// QORIN_API_RESULT_ERROR_ROBOT_JOINT_PARAM_OUT_OF_RANGE.
@@ -43,7 +55,16 @@ public:
     QORIN_API_RESULT set_table(const dh_table& table);
     QORIN_API_RESULT set_servo(QORIN_SWITCH value);
 
+    /// Kilograms, and millimetres in the flange frame. Mass and centre have a result of their own for each thing that
+    /// cannot be.
+    QORIN_API_RESULT set_payload(const payload& carried);
+
+    /// What moves by itself moves on. The arm follows the profiler's points while its servo is on: a point that it
+    /// cannot reach is passed over.
+    void advance_one_cycle();
+
 private:
+    void follow(const profiler_point& point);
     void follow_joints();
     void follow_tool();
 
@@ -54,6 +75,10 @@ private:
     pose flange_pose_{};
     pose tcp_pose_{};
     robot_settings settings_;
+    safety_planes planes_;
+    std::optional<bounding_shape> tcp_shape_;
+    external_profiler profiler_;
+    dynamics_calibration calibration_;
 };
 } // namespace cbox_simulator
 

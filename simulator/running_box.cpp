@@ -115,6 +115,7 @@ const control_box* running_box::served_by_this_thread()
 
 void running_box::run_cycle()
 {
+    model_.advance_one_cycle();
     deliver_events();
     render_frame(model_, frame_);
     const std::span bytes(reinterpret_cast<const std::byte*>(&frame_), sizeof frame_);
