@@ -28,7 +28,7 @@ QORIN_API_RESULT leave_standing_within(robot_state&, double seconds)
     return is_magnitude(seconds) ? QORIN_API_RESULT_OK : QORIN_API_RESULT_ERROR_ROBOT_PARAM_OUT_OF_RANGE;
 }
 
-/// Power comes over the link's drives; taking it away needs nobody's answer.
+/// The drives can be powered while the link to them is up; power can be taken away at any time.
 QORIN_API_RESULT servo_switch_set(box_model& model, robot_state& robot, QORIN_SWITCH value)
 {
     return value == QORIN_SWITCH_ON && !is_linked(model) ? QORIN_API_RESULT_ROBOT_ECAT_NOT_CONNECTED
