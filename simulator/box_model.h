@@ -64,7 +64,7 @@ public:
     [[nodiscard]] bool holds_control(client_id client) const { return control_owner_ == client; }
 
     /// Lets one control cycle pass.
-    void run_cycle() { robots_.advance(control_cycle_us_ * 1e-6); }
+    void run_cycle() { robots_.run_cycle(control_cycle_us_ * 1e-6); }
 
     /// The flag is acted upon by whoever serves the links, once the reply is on its way.
     QORIN_API_RESULT request_exit(client_id client);

@@ -6,7 +6,12 @@
 #include <fmt/format.h>
 
 #include "simulator/cbox_test_commands.h"
+#include "simulator/external_motion_commands.h"
+#include "simulator/force_control_commands.h"
 #include "simulator/robot_commands.h"
+#include "simulator/robot_control_commands.h"
+#include "simulator/robot_setup_commands.h"
+#include "simulator/safety_limit_commands.h"
 #include "simulator/system_commands.h"
 
 namespace cbox_simulator
@@ -39,6 +44,11 @@ command_table make_command_table()
     command_table table;
     table.add(system_commands());
     table.add(robot_commands());
+    table.add(robot_control_commands());
+    table.add(robot_setup_commands());
+    table.add(safety_limit_commands());
+    table.add(force_control_commands());
+    table.add(external_motion_commands());
     table.add(cbox_test_commands());
     return table;
 }

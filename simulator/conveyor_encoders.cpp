@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "simulator/value_checks.h"
+#include "simulator/possible_values.h"
 
 namespace cbox_simulator
 {
@@ -31,6 +31,19 @@ QORIN_API_RESULT conveyor_encoders::calibrate_conveyor_encoder(std::uint32_t enc
         return QORIN_API_RESULT_ERROR_ROBOT_PARAM_OUT_OF_RANGE;
     encoders_[encoder].scale_divisor = scale_divisor;
     encoders_[encoder].scale_factor = scale_factor;
+    return QORIN_API_RESULT_OK;
+}
+
+QORIN_API_RESULT conveyor_encoders::set_up_conveyor_encoder(std::uint32_t encoder, QORIN_CONVEYOR_ENCODER_TYPE type,
+                                                            double scale_divisor, double scale_factor)
+{
+    if (!is_possible(type))
+        return QORIN_API_RESULT_ERROR_ROBOT_PARAM_OUT_OF_RANGE;
+    const auto result = calibrate_conveyor_encoder(encoder, scale_divisor, scale_factor);
+    if (result != QORIN_API_RESULT_OK)
+        return result;
+    encoders_[encoder].type = type;
+    index_ = encoder;
     return QORIN_API_RESULT_OK;
 }
 

@@ -16,6 +16,7 @@ struct conveyor_encoder
     double rate = 0; ///< as the I/O module counts it
     double scale_divisor = 1;
     double scale_factor = 1;
+    QORIN_CONVEYOR_ENCODER_TYPE type = QORIN_CONVEYOR_ENCODER_TYPE_QUADRATURE; ///< no frame shows it
 };
 
 /// The two encoder inputs for conveyors, of which one at a time can be in use. An encoder that is not there is
@@ -35,6 +36,9 @@ public:
 
     /// A divisor of 0 would make every speed infinite and is refused, as is what is not finite.
     QORIN_API_RESULT calibrate_conveyor_encoder(std::uint32_t encoder, double scale_divisor, double scale_factor);
+    /// The same, of the encoder that is in use from then on.
+    QORIN_API_RESULT set_up_conveyor_encoder(std::uint32_t encoder, QORIN_CONVEYOR_ENCODER_TYPE type,
+                                             double scale_divisor, double scale_factor);
     QORIN_API_RESULT set_conveyor_encoder_rate(std::uint32_t encoder, double rate);
 
 private:

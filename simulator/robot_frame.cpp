@@ -5,7 +5,9 @@
 #include <cstring>
 #include <iterator>
 
+#include "simulator/frame_array.h"
 #include "simulator/frame_text.h"
+#include "simulator/robot_functions_frame.h"
 
 namespace cbox_simulator
 {
@@ -27,14 +29,6 @@ static_assert(last_drive * joint_module_data_t::stride + offsetof(joint_module_d
 static_assert(robot_set::robot_limit * tool_module_data_t::stride <= sizeof(shared_data_t::tool_modules));
 static_assert(robot_set::robot_limit == std::size(decltype(shared_data_t::robots){}));
 
-/// The fields of a frame are not aligned, so that no pointer to their elements may be had. The caller's field has the
-/// array's type.
-template <class Element, std::size_t count>
-void put(void* field, const std::array<Element, count>& values)
-{
-    std::memcpy(field, values.data(), sizeof values);
-}
-
 void render_switches(const robot_switches& switches, robot_data_t& record)
 {
     record.servo_switch = switches.servo;
@@ -43,23 +37,6 @@ void render_switches(const robot_switches& switches, robot_data_t& record)
     record.weaving_event = switches.weaving_event;
     record.joint_chaser_state = switches.joint_chaser;
     record.acc_dec_auto_adjustment = switches.acc_dec_auto_adjustment;
-}
-
-/// What the box does not do yet: no force control, no external profiler, no conveyor tracking.
-void render_idle_functions(robot_data_t& record)
-{
-    record.conveyor_mode = QORIN_CONVEYOR_MODE_OFF;
-    record.ext_profiler_switch = QORIN_SWITCH_OFF;
-    record.ext_profiler_period = 1;
-    record.ext_profiler_tcp_type = QORIN_POSE_TYPE_TCP;
-    record.force_ctrl_switch = QORIN_SWITCH_OFF;
-    record.force_ctrl_coordinate = QORIN_REF_COORDINATE_BASE;
-    record.force_ctrl_sensorless_bias = QORIN_SWITCH_OFF;
-    for (std::size_t axis = 0; axis < std::size(record.force_ctrl_direction_switch); ++axis)
-    {
-        record.force_ctrl_direction_switch[axis] = QORIN_SWITCH_OFF;
-        record.force_ctrl_force_value_bias[axis] = QORIN_SWITCH_OFF;
-    }
 }
 
 void render_limits(const robot_settings& settings, robot_data_t& record)
@@ -103,6 +80,7 @@ void render_joint(const robot_state& robot, std::size_t joint, joint_data_t& rec
     record.safety_angle[1] = safety.angle_min;
     record.safety_speed_max = safety.speed_max;
     record.safety_acc_max = safety.acceleration_max;
+    record.friction_feedrate = robot.settings().friction_feedrate[joint];
     const auto& table = robot.table();
     record.dh_parameter_1 = table.theta[joint];
     record.dh_parameter_2 = table.d[joint];
@@ -153,7 +131,8 @@ void render_robot(std::uint32_t id, const robot_state& robot, shared_data_t& fra
     put(&record.tcp_payload[1], settings.tcp_payload.centre_of_mass);
     put(record.installation_mount, settings.installation_mount);
     render_switches(settings.switches, record);
-    render_idle_functions(record);
+    record.state_moving = QORIN_MOVING_STATE_IDLE; // nothing moves in time
+    render_robot_functions(id, robot, frame);
     render_limits(settings, record);
     render_poses(robot, record);
 

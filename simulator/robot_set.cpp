@@ -35,12 +35,12 @@ robot_state* robot_set::find(std::uint32_t id)
     return id < robot_limit && robots_[id] ? &*robots_[id] : nullptr;
 }
 
-void robot_set::advance(double seconds)
+void robot_set::run_cycle(double seconds)
 {
     for (auto& robot : robots_)
     {
         if (robot)
-            robot->advance(seconds);
+            robot->run_cycle(seconds);
     }
 }
 

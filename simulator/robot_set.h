@@ -63,8 +63,8 @@ public:
         return change<&robot_state::set_joint_chaser>(id, value);
     }
 
-    /// Lets time pass for all robots.
-    void advance(double seconds);
+    /// Lets a control cycle pass for all robots.
+    void run_cycle(double seconds);
 
 private:
     template <auto operation, class Value>

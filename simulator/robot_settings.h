@@ -7,9 +7,10 @@
 
 #include "kinematics/arm_models.h"
 #include "qorin/enumerations.h"
+#include "simulator/force_settings.h"
 
-/// What a robot is set to beside its place. All of it shows in the frame and none of it moves the arm, so that these
-/// are plain values: whoever sets one has judged it before.
+/// What a robot is set to beside its place. None of it moves the arm, so that these are plain values: whoever sets one
+/// has judged it before. The frame shows all that it has a field for.
 namespace cbox_simulator
 {
 struct robot_switches
@@ -20,6 +21,23 @@ struct robot_switches
     QORIN_SWITCH weaving_event = QORIN_SWITCH_OFF;
     QORIN_SWITCH joint_chaser = QORIN_SWITCH_OFF;
     QORIN_SWITCH acc_dec_auto_adjustment = QORIN_SWITCH_OFF;
+    QORIN_SWITCH motion_auto_adjustment = QORIN_SWITCH_OFF;
+    QORIN_SWITCH safety_limit = QORIN_SWITCH_OFF;
+    QORIN_SWITCH bounding_shape = QORIN_SWITCH_OFF;
+};
+
+/// Single timed targets from an application.
+struct external_move
+{
+    QORIN_SWITCH active = QORIN_SWITCH_OFF;
+    QORIN_SWITCH stop_mode = QORIN_SWITCH_ON;
+};
+
+/// Of velocity control, for each joint: degrees per second, and per second squared.
+struct velocity_targets
+{
+    std::array<double, 6> velocity{};
+    std::array<double, 6> acceleration{};
 };
 
 /// Millimetres per second, and per second squared.
@@ -91,6 +109,15 @@ struct robot_settings
     reduced_mode_limits reduced_mode;
     payload tcp_payload;
     std::array<double, 2> installation_mount{}; ///< Degrees; zero is on the floor.
+    velocity_targets targets;
+    std::int32_t teaching_payload_sensitivity = 0; ///< Of direct teaching.
+    std::array<double, 6> friction_feedrate{};     ///< Of the joints in the dynamics model.
+    force_control force;
+    force_torque_sensor ft_sensor;
+    external_force_torque external_ft;
+    external_move ext_move;
+    QORIN_CONVEYOR_MODE conveyor_mode = QORIN_CONVEYOR_MODE_OFF;
+    std::array<double, 6> conveyor_start_offset{};
     std::array<drive, savrent::kinematics::joint_count> drives;
     tool_module tool;
 };

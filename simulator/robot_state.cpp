@@ -30,6 +30,9 @@ joint_array ready_angles(QORIN_ROBOT_MODEL model)
     }
 }
 
+// Beyond it no tool of these arms can have its centre of mass. Millimetres.
+constexpr double farthest_centre_of_mass = 1000;
+
 /// Also false for what is no number.
 bool is_within(double angle, const joint_range& range)
 {
@@ -84,6 +87,48 @@ QORIN_API_RESULT robot_state::set_servo(QORIN_SWITCH value)
     return QORIN_API_RESULT_OK;
 }
 
+QORIN_API_RESULT robot_state::set_payload(const payload& carried)
+{
+    const auto& [mass, centre] = carried;
+    if (!std::isfinite(mass))
+        return QORIN_API_RESULT_ERROR_ROBOT_PARAM_OUT_OF_RANGE;
+    if (mass < 0)
+        return QORIN_API_RESULT_ERROR_ROBOT_GIVEN_PAY_LOAD_IS_LESS_THAN_ZERO;
+    if (mass == 0 && std::ranges::any_of(centre, [](double value) { return value != 0; }))
+        return QORIN_API_RESULT_ERROR_ROBOT_GIVEN_PAY_LOAD_IS_ZERO_BUT_CENTER_OF_MASS_NOT_ZERO;
+    if (mass > arm_->payload)
+        return QORIN_API_RESULT_ERROR_ROBOT_GIVEN_PAY_LOAD_MORE_THAN_MAX_CAPACITY;
+    if (!std::ranges::all_of(centre, [](double value) { return std::abs(value) <= farthest_centre_of_mass; }))
+        return QORIN_API_RESULT_ERROR_ROBOT_GIVEN_PAY_LOAD_CENTER_OF_MASS_OUT_OF_RANGE;
+    settings_.tcp_payload = carried;
+    return QORIN_API_RESULT_OK;
+}
+
+void robot_state::run_cycle(double seconds)
+{
+    take_profiler_point();
+    run_after_stream(seconds);
+}
+
+void robot_state::take_profiler_point()
+{
+    const auto point = profiler_.take_due_point();
+    if (!point || settings_.switches.servo != QORIN_SWITCH_ON)
+        return;
+    if (point->form == profiler_point::kind::joints)
+    {
+        set_joint_angles(point->values);
+        return;
+    }
+    pose flange = point->values;
+    if (profiler_.pose_type() == QORIN_POSE_TYPE_TCP)
+        flange = placed(flange, inverted(tcp_from_flange_));
+    const auto joints =
+        solver_.inverse({{flange[0], flange[1], flange[2]}, {flange[3], flange[4], flange[5]}}, actual_.joints);
+    if (joints)
+        set_joint_angles(*joints);
+}
+
 QORIN_API_RESULT robot_state::set_joint_chaser(QORIN_SWITCH value)
 {
     if (!is_switch(value))
@@ -117,7 +162,7 @@ bool robot_state::stop_chasing()
     return true;
 }
 
-void robot_state::advance(double seconds)
+void robot_state::run_after_stream(double seconds)
 {
     if (!chases())
         return;

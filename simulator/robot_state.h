@@ -1,11 +1,17 @@
 #ifndef SIMULATOR_ROBOT_STATE_H
 #define SIMULATOR_ROBOT_STATE_H
 
+#include <optional>
+
 #include "kinematics/arm_models.h"
 #include "kinematics/arm_solver.h"
 #include "qorin/result.h"
+#include "simulator/bounding_shape.h"
+#include "simulator/dynamics_calibration.h"
+#include "simulator/external_profiler.h"
 #include "simulator/pose.h"
 #include "simulator/robot_settings.h"
+#include "simulator/safety_planes.h"
 
 namespace cbox_simulator
 {
@@ -44,6 +50,12 @@ public:
     [[nodiscard]] QORIN_MOVING_STATE moving_state() const { return moving_state_; }
     [[nodiscard]] const robot_settings& settings() const { return settings_; }
     [[nodiscard]] robot_settings& settings() { return settings_; }
+    [[nodiscard]] const safety_planes& planes() const { return planes_; }
+    [[nodiscard]] safety_planes& planes() { return planes_; }
+    [[nodiscard]] std::optional<bounding_shape>& tcp_shape() { return tcp_shape_; }
+    [[nodiscard]] const external_profiler& profiler() const { return profiler_; }
+    [[nodiscard]] external_profiler& profiler() { return profiler_; }
+    [[nodiscard]] dynamics_calibration& calibration() { return calibration_; }
 
     /// Puts the arm there at once. An angle beyond the arm's range is
     /// QORIN_API_RESULT_ERROR_ROBOT_JOINT_PARAM_OUT_OF_RANGE.
@@ -54,6 +66,10 @@ public:
     QORIN_API_RESULT set_tcp_from_flange(const pose& tcp_from_flange);
     QORIN_API_RESULT set_table(const dh_table& table);
     QORIN_API_RESULT set_servo(QORIN_SWITCH value);
+
+    /// Kilograms, and millimetres in the flange frame. Mass and centre have a result of their own for each thing that
+    /// cannot be.
+    QORIN_API_RESULT set_payload(const payload& carried);
 
     /// What a motion does. Running after streamed targets is none: clients end their stream when they see a motion.
     void set_moving_state(QORIN_MOVING_STATE state) { moving_state_ = state; }
@@ -70,11 +86,14 @@ public:
     /// Ends the run after the last target where the arm is. False when the chaser is off.
     bool stop_chasing();
 
-    /// Lets time pass: each joint nears its target by a share of the way, no faster than its safety limit.
-    void advance(double seconds);
+    /// Lets a control cycle pass. The arm follows the profiler's points while its servo is on, passing over those that
+    /// it cannot reach. After streamed targets each joint goes a share of its way, no faster than its safety limit.
+    void run_cycle(double seconds);
 
 private:
     [[nodiscard]] bool chases() const { return settings_.switches.joint_chaser == QORIN_SWITCH_ON; }
+    void take_profiler_point();
+    void run_after_stream(double seconds);
     void stand_still();
     void follow_joints(stance& which) const;
     void follow_tool(stance& which) const;
@@ -87,6 +106,10 @@ private:
     joint_array joint_speeds_{};
     QORIN_MOVING_STATE moving_state_ = QORIN_MOVING_STATE_IDLE;
     robot_settings settings_;
+    safety_planes planes_;
+    std::optional<bounding_shape> tcp_shape_;
+    external_profiler profiler_;
+    dynamics_calibration calibration_;
 };
 } // namespace cbox_simulator
 

@@ -27,7 +27,7 @@ TEST(joint_follow, covers_a_share_of_the_way_each_cycle_within_speed_and_range)
     targets[1] -= 100;
     targets[2] += 1000;
     EXPECT_FALSE(robot.chase(targets)) << "the chaser is off";
-    robot.advance(0.001);
+    robot.run_cycle(0.001);
     EXPECT_EQ(start, robot.joint_angles());
 
     EXPECT_EQ(QORIN_API_RESULT_OK, robot.set_joint_chaser(QORIN_SWITCH_ON));
@@ -35,7 +35,7 @@ TEST(joint_follow, covers_a_share_of_the_way_each_cycle_within_speed_and_range)
     targets[2] = first_arm.joints[2].angle_max;
     EXPECT_EQ(targets, robot.commanded().joints);
     EXPECT_EQ(start, robot.joint_angles());
-    robot.advance(0.001);
+    robot.run_cycle(0.001);
     EXPECT_NEAR(robot.joint_angles()[0] - start[0], 1 - std::exp(-0.05), 1e-12);
     EXPECT_NEAR(robot.joint_speeds()[0], 1000 * (1 - std::exp(-0.05)), 1e-9);
     EXPECT_NEAR(robot.joint_angles()[1] - start[1], -first_arm.joints[1].speed_max / 1000, 1e-12);
@@ -44,7 +44,7 @@ TEST(joint_follow, covers_a_share_of_the_way_each_cycle_within_speed_and_range)
     const joint_array no_number = {0, 0, 0, 0, 0, std::numeric_limits<double>::quiet_NaN()};
     EXPECT_FALSE(robot.chase(no_number));
     for (int cycle = 0; cycle < 2000; ++cycle)
-        robot.advance(0.001);
+        robot.run_cycle(0.001);
     EXPECT_EQ(targets, robot.joint_angles());
     EXPECT_EQ(joint_array{}, robot.joint_speeds());
     robot_state put_there(first_arm);
@@ -61,13 +61,13 @@ TEST(joint_follow, a_stop_or_switching_off_leaves_the_arm_where_it_is)
         EXPECT_FALSE(robot.stop_chasing());
         (void)robot.set_joint_chaser(QORIN_SWITCH_ON);
         ASSERT_TRUE(robot.chase({40, 40, 40, 40, 40, 40}));
-        robot.advance(0.01);
+        robot.run_cycle(0.01);
         const joint_array there = robot.joint_angles();
         if (by_switch)
             EXPECT_EQ(QORIN_API_RESULT_OK, robot.set_joint_chaser(QORIN_SWITCH_OFF));
         else
             EXPECT_TRUE(robot.stop_chasing());
-        robot.advance(0.01);
+        robot.run_cycle(0.01);
         EXPECT_EQ(there, robot.joint_angles());
         EXPECT_EQ(there, robot.commanded().joints);
         EXPECT_EQ(robot.flange_pose(), robot.commanded().flange);
