@@ -5,9 +5,14 @@
 
 #include <fmt/format.h>
 
+#include "simulator/cbox_commands.h"
 #include "simulator/cbox_test_commands.h"
+#include "simulator/fieldbus_commands.h"
+#include "simulator/memory_commands.h"
 #include "simulator/robot_commands.h"
+#include "simulator/robot_test_commands.h"
 #include "simulator/system_commands.h"
+#include "simulator/tool_io_commands.h"
 
 namespace cbox_simulator
 {
@@ -39,7 +44,12 @@ command_table make_command_table()
     command_table table;
     table.add(system_commands());
     table.add(robot_commands());
+    table.add(tool_io_commands());
+    table.add(cbox_commands());
+    table.add(fieldbus_commands());
+    table.add(memory_commands());
     table.add(cbox_test_commands());
+    table.add(robot_test_commands());
     return table;
 }
 
