@@ -28,8 +28,10 @@ struct arguments
 protocol::request_record request(const std::string& short_name, const arguments& given)
 {
     auto record = raw::request("qorin_" + short_name);
-    std::copy(given.values.begin(), given.values.end(), record.value);
-    std::copy(given.reals.begin(), given.reals.end(), record.real);
+    for (std::size_t i = 0; i < given.values.size(); ++i)
+        record.value[i] = given.values[i];
+    for (std::size_t i = 0; i < given.reals.size(); ++i)
+        record.real[i] = given.reals[i];
     for (std::size_t i = 0; i < given.blocks.size(); ++i)
         std::memcpy(record.block[i], given.blocks[i].data(), std::min<std::size_t>(given.blocks[i].size(), 128));
     return record;
@@ -139,7 +141,8 @@ void expect_steps(equipped_box& box, const std::vector<step>& steps)
         const auto reply = box.told(step.name, step.given);
         const auto line = "step " + std::to_string(&step - steps.data()) + ' ' + step.name;
         EXPECT_EQ(reply.result, step.result) << line;
-        EXPECT_EQ(words(reply.value, reply.value + step.values.size()), step.values) << line;
+        for (std::size_t i = 0; i < step.values.size(); ++i)
+            EXPECT_EQ(reply.value[i] + 0u, step.values[i]) << line << ", value " << i;
         EXPECT_EQ(reply.real[0], step.real) << line;
     }
 }
