@@ -43,6 +43,14 @@ QORIN_API_RESULT box_model::reset_system(client_id client)
     return holds_control(client) ? QORIN_API_RESULT_OK : QORIN_API_RESULT_ERROR_YOU_DONT_HAVE_THE_CONTROL;
 }
 
+QORIN_API_RESULT box_model::set_ecat_link(bool connected)
+{
+    if (!system_)
+        return QORIN_API_RESULT_ERROR_SYSTEM_CONTROL_SW_NOT_INIT;
+    return cbox_.set_ecat_connection_state(connected ? QORIN_ECAT_CONN_STATE_CONNECTED
+                                                     : QORIN_ECAT_CONN_STATE_DISCONNECTED);
+}
+
 QORIN_API_RESULT box_model::create_robot(QORIN_ROBOT_MODEL model, std::uint32_t& id)
 {
     return system_ ? robots_.create(model, system_->robot_capacity, id)

@@ -1,15 +1,20 @@
 #ifndef SIMULATOR_BOX_MODEL_H
 #define SIMULATOR_BOX_MODEL_H
 
+#include <chrono>
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "qorin/enumerations.h"
 #include "qorin/result.h"
 #include "simulator/cbox_state.h"
 #include "simulator/event_outbox.h"
+#include "simulator/fieldbus.h"
 #include "simulator/robot_set.h"
+#include "simulator/service_data.h"
+#include "simulator/user_memory.h"
 
 namespace cbox_simulator
 {
@@ -45,6 +50,10 @@ public:
     [[nodiscard]] cbox_state& cbox() { return cbox_; }
     [[nodiscard]] const robot_set& robots() const { return robots_; }
     [[nodiscard]] robot_set& robots() { return robots_; }
+    [[nodiscard]] const fieldbus& fieldbuses() const { return fieldbuses_; }
+    [[nodiscard]] fieldbus& fieldbuses() { return fieldbuses_; }
+    [[nodiscard]] cbox_simulator::user_memory& user_memory() { return user_memory_; }
+    [[nodiscard]] cbox_simulator::service_data& service_data() { return service_data_; }
     [[nodiscard]] event_outbox& events() { return events_; }
 
     /// Needs no control, as it comes before the first take; yet nobody may do it under another client's hands.
@@ -53,6 +62,10 @@ public:
     /// Clients release before they destroy, so that control is not needed here either. The system's robots end with it.
     QORIN_API_RESULT destroy_system(client_id client);
     QORIN_API_RESULT reset_system(client_id client);
+
+    /// The EtherCAT link is there to be lost and restored only while a system stands:
+    /// QORIN_API_RESULT_ERROR_SYSTEM_CONTROL_SW_NOT_INIT otherwise.
+    QORIN_API_RESULT set_ecat_link(bool connected);
 
     /// The system makes room for its robots: without one it is QORIN_API_RESULT_ERROR_SYSTEM_CONTROL_SW_NOT_INIT, and
     /// robot_set::create() decides otherwise.
@@ -69,6 +82,10 @@ public:
     /// The flag is acted upon by whoever serves the links, once the reply is on its way.
     QORIN_API_RESULT request_exit(client_id client);
 
+    /// The reply to the command under way shall wait that long. Whoever sends the reply takes the delay, once.
+    void delay_reply(std::chrono::milliseconds delay) { reply_delay_ = delay; }
+    [[nodiscard]] std::chrono::milliseconds take_reply_delay() { return std::exchange(reply_delay_, {}); }
+
     /// To be told of every client that is gone, so that what it held becomes free. True when that was the control.
     bool forget_client(client_id client);
 
@@ -84,6 +101,10 @@ private:
     event_outbox events_;
     cbox_state cbox_{events_};
     robot_set robots_;
+    fieldbus fieldbuses_;
+    cbox_simulator::user_memory user_memory_;
+    cbox_simulator::service_data service_data_{cbox_};
+    std::chrono::milliseconds reply_delay_{};
 };
 } // namespace cbox_simulator
 

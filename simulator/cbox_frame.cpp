@@ -88,6 +88,26 @@ void render_ecat_devices(const ecat_devices& devices, shared_data_t& frame)
     }
 }
 
+void render_rs485(const rs485_port& port, shared_data_t& frame)
+{
+    const auto& setup = port.rs485_setup();
+    frame.rs485_setup[0] = setup.serial_interface;
+    frame.rs485_setup[1] = setup.baudrate;
+    frame.rs485_setup[2] = setup.data_frame;
+    frame.rs485_setup[3] = setup.protocol;
+    frame.rs485_setup[4] = setup.setup_switch;
+    frame.rs485_setup[5] = static_cast<std::uint32_t>(setup.count);
+    const auto& control = port.rs485_control();
+    frame.rs485_control[0] = control.tx_request;
+    frame.rs485_control[1] = control.rx_accepted;
+    frame.rs485_control[2] = control.rx_init_request;
+    frame.rs485_control[3] = control.tx_continuous;
+    frame.rs485_control[4] = control.tx_scan_rate_request;
+    frame.rs485_control[5] = control.rx_pause;
+    put_bytes(frame.rs485_rx_data, port.rs485_rx_data());
+    put_bytes(frame.rs485_tx_data, port.rs485_tx_data());
+}
+
 void render_conveyor_encoders(const conveyor_encoders& conveyor, shared_data_t& frame)
 {
     const auto& encoders = conveyor.all_conveyor_encoders();
@@ -115,5 +135,6 @@ void render_cbox(const cbox_state& cbox, shared_data_t& frame)
     render_safety_module(cbox, frame);
     render_ecat_devices(cbox, frame);
     render_conveyor_encoders(cbox, frame);
+    render_rs485(cbox, frame);
 }
 } // namespace cbox_simulator

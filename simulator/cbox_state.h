@@ -8,6 +8,9 @@
 #include "simulator/ecat_devices.h"
 #include "simulator/ecat_master.h"
 #include "simulator/io_modules.h"
+#include "simulator/program_state.h"
+#include "simulator/redundant_io.h"
+#include "simulator/rs485_port.h"
 #include "simulator/safety_module.h"
 
 namespace cbox_simulator
@@ -23,7 +26,10 @@ class cbox_state : public button_panel,
                    public io_modules,
                    public safety_module,
                    public ecat_devices,
-                   public conveyor_encoders
+                   public conveyor_encoders,
+                   public redundant_io,
+                   public rs485_port,
+                   public program_state
 {
 public:
     static constexpr std::uint32_t epc_input_count = 16;

@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "simulator/fault_injection.h"
+#include "simulator/part_operation.h"
 #include "simulator/typed_command.h"
 
 namespace cbox_simulator
@@ -61,6 +62,8 @@ constexpr command_row rows[] = {
     open_to_all<inject<&cbox_state::set_safety_redundant_input>>(
         "qorin_ts_safety_module_redundant_io_digital_input_set"),
     open_to_all<inject<&cbox_state::set_epc_input>>("qorin_ts_epc_io_digital_input_set"),
+    open_to_all<on_part<&service_data::write>>("qorin_ts_cbox_sdo_write"),
+    open_to_all<on_part<&service_data::read>>("qorin_ts_cbox_sdo_read"),
 };
 } // namespace
 

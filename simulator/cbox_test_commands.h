@@ -7,8 +7,8 @@
 
 namespace cbox_simulator
 {
-/// Events on demand, and inputs and faults of the control box. They stand for the outside world, so that nobody needs
-/// the control for them.
+/// Events on demand, inputs and faults of the control box, and the service data of its modules. They stand for the
+/// outside world, so that nobody needs the control for them.
 [[nodiscard]] std::span<const command_row> cbox_test_commands();
 } // namespace cbox_simulator
 

@@ -50,8 +50,9 @@ std::span<const std::byte> bytes_of(const Record& record)
 }
 } // namespace
 
-client_session::client_session(client_id id, asio::ip::address address, const session_environment& environment)
-    : id_(id), address_(std::move(address)), environment_(environment)
+client_session::client_session(client_id id, asio::ip::address address, const asio::any_io_executor& executor,
+                               const session_environment& environment)
+    : id_(id), address_(std::move(address)), environment_(environment), reply_timer_(executor)
 {
     links_.reserve(link_count); // operations hold references to the sockets
 }
@@ -98,6 +99,7 @@ void client_session::leave(std::string_view reason)
     if (closed_)
         return;
     closed_ = true;
+    reply_timer_.cancel();
     for (auto& link : links_)
     {
         error_code ignored;
@@ -145,9 +147,28 @@ void client_session::serve_request()
     outputs.result(perform(arguments, outputs));
     ++environment_.counters.commands_served;
     environment_.deliver_events();
+    const auto delay = environment_.model.take_reply_delay();
     if (closed_)
         return;
+    if (delay > delay.zero())
+        reply_after(delay);
+    else
+        send_reply();
+}
 
+void client_session::reply_after(std::chrono::milliseconds delay)
+{
+    reply_timer_.expires_after(delay);
+    reply_timer_.async_wait(
+        [self = shared_from_this()](const error_code&)
+        {
+            if (!self->closed_)
+                self->send_reply();
+        });
+}
+
+void client_session::send_reply()
+{
     const auto error = reply_output_.write(links_[command_link], bytes_of(reply_),
                                            [self = shared_from_this()](const error_code& late_error)
                                            { self->reply_sent(late_error); });

@@ -2,6 +2,7 @@
 #define SIMULATOR_CLIENT_SESSION_H
 
 #include <array>
+#include <chrono>
 #include <cstddef>
 #include <deque>
 #include <memory>
@@ -9,7 +10,9 @@
 #include <string_view>
 #include <vector>
 
+#include <boost/asio/any_io_executor.hpp>
 #include <boost/asio/ip/tcp.hpp>
+#include <boost/asio/steady_timer.hpp>
 
 #include "protocol/event_record.h"
 #include "protocol/rpc_record.h"
@@ -28,7 +31,9 @@ namespace cbox_simulator
 class client_session : public std::enable_shared_from_this<client_session>
 {
 public:
-    client_session(client_id id, boost::asio::ip::address address, const session_environment& environment);
+    /// The session works on the io context of its links.
+    client_session(client_id id, boost::asio::ip::address address, const boost::asio::any_io_executor& executor,
+                   const session_environment& environment);
 
     /// The next link of this client: command, then data, then event.
     void add_link(boost::asio::ip::tcp::socket link);
@@ -67,6 +72,8 @@ private:
 
     void read_request();
     void serve_request();
+    void reply_after(std::chrono::milliseconds delay);
+    void send_reply();
     void reply_sent(const boost::system::error_code& error);
     QORIN_API_RESULT perform(request_reader& arguments, reply_writer& outputs);
     void report_control_change(const std::optional<client_id>& owner_before) const;
@@ -85,6 +92,7 @@ private:
 
     protocol::request_record request_;
     protocol::reply_record reply_;
+    boost::asio::steady_timer reply_timer_;
     record_writer reply_output_;
     record_writer frame_output_;
     record_writer event_output_;

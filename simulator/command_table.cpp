@@ -5,14 +5,19 @@
 
 #include <fmt/format.h>
 
+#include "simulator/cbox_commands.h"
 #include "simulator/cbox_test_commands.h"
 #include "simulator/external_motion_commands.h"
+#include "simulator/fieldbus_commands.h"
 #include "simulator/force_control_commands.h"
+#include "simulator/memory_commands.h"
 #include "simulator/robot_commands.h"
 #include "simulator/robot_control_commands.h"
 #include "simulator/robot_setup_commands.h"
+#include "simulator/robot_test_commands.h"
 #include "simulator/safety_limit_commands.h"
 #include "simulator/system_commands.h"
+#include "simulator/tool_io_commands.h"
 
 namespace cbox_simulator
 {
@@ -49,7 +54,12 @@ command_table make_command_table()
     table.add(safety_limit_commands());
     table.add(force_control_commands());
     table.add(external_motion_commands());
+    table.add(tool_io_commands());
+    table.add(cbox_commands());
+    table.add(fieldbus_commands());
+    table.add(memory_commands());
     table.add(cbox_test_commands());
+    table.add(robot_test_commands());
     return table;
 }
 

@@ -10,14 +10,6 @@ QORIN_API_RESULT press(button_panel& panel, bool pushed, std::uint32_t button)
     return button == 0 ? panel.set_emergency_button(state) : panel.set_amr_emergency_button(button - 1, state);
 }
 
-QORIN_API_RESULT lose_or_restore_link(box_model& model, bool lost)
-{
-    if (!model.system())
-        return QORIN_API_RESULT_ERROR_SYSTEM_CONTROL_SW_NOT_INIT;
-    return model.cbox().set_ecat_connection_state(lost ? QORIN_ECAT_CONN_STATE_DISCONNECTED
-                                                       : QORIN_ECAT_CONN_STATE_CONNECTED);
-}
-
 QORIN_API_RESULT report_error(box_model& model, std::uint32_t subgroup, std::uint32_t sender_id)
 {
     if (subgroup <= QORIN_EVENT_SUBGRP_ERROR_INVALID ||
@@ -41,7 +33,7 @@ QORIN_API_RESULT inject_fault(box_model& model, injected_fault fault, std::uint3
                    ? model.cbox().set_power_button(on ? QORIN_BUTTON_STATE_PUSHED : QORIN_BUTTON_STATE_RELEASED)
                    : QORIN_API_RESULT_ERROR_CBOX_INVALID_IO_VALUE;
     case injected_fault::ecat_link_loss:
-        return is_on_or_off ? lose_or_restore_link(model, on) : QORIN_API_RESULT_ERROR_CBOX_INVALID_IO_VALUE;
+        return is_on_or_off ? model.set_ecat_link(!on) : QORIN_API_RESULT_ERROR_CBOX_INVALID_IO_VALUE;
     case injected_fault::error_event:
         return report_error(model, value_1, value_2);
     }

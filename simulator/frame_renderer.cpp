@@ -43,11 +43,6 @@ void render_idle_peripherals(shared_data_t& frame)
             QORIN_TOOL_POWER_VOLTAGE_OPTION_0;
         frame.ext_ft_sensors[robot].sensor_switch = QORIN_SWITCH_OFF;
     }
-    frame.rs485_setup[0] = QORIN_RS485_SERIAL_INTERFACE_UNDEFINED;
-    frame.rs485_setup[1] = QORIN_RS485_BAUDRATE_UNDEFINED;
-    frame.rs485_setup[2] = QORIN_RS485_DATA_FRAME_UNDEFINED;
-    frame.rs485_setup[3] = QORIN_RS485_PROTOCOL_UNDEFINED;
-    frame.rs485_setup[4] = QORIN_SWITCH_OFF;
 }
 } // namespace
 

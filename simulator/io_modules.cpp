@@ -1,7 +1,5 @@
 #include "simulator/io_modules.h"
 
-#include <cmath>
-
 #include "simulator/value_checks.h"
 
 namespace cbox_simulator
@@ -14,6 +12,15 @@ QORIN_API_RESULT io_modules::set_digital_input(std::uint32_t module, std::uint32
 QORIN_API_RESULT io_modules::set_digital_output(std::uint32_t module, std::uint32_t channel, std::uint32_t value)
 {
     return set_bit(&io_module::digital_output, module, channel, value);
+}
+
+QORIN_API_RESULT io_modules::set_digital_outputs(std::uint32_t module, std::uint32_t count,
+                                                 const block_of<std::uint32_t>& outputs,
+                                                 const block_of<std::uint32_t>& values)
+{
+    if (module >= module_count)
+        return QORIN_API_RESULT_ERROR_CBOX_INVALID_IO_NUMBER;
+    return set_channels(modules_[module].digital_output, {io_module::digital_channels}, count, outputs, values);
 }
 
 QORIN_API_RESULT io_modules::set_redundant_input(std::uint32_t module, std::uint32_t channel, std::uint32_t value)
@@ -82,22 +89,16 @@ QORIN_API_RESULT io_modules::set_bit(std::uint32_t io_module::*word, std::uint32
 QORIN_API_RESULT io_modules::set_analog(channels<double> io_module::*values, std::uint32_t module,
                                         std::uint32_t channel, double value)
 {
-    if (module >= module_count || channel >= io_module::analog_channels)
+    if (module >= module_count)
         return QORIN_API_RESULT_ERROR_CBOX_INVALID_IO_NUMBER;
-    if (!std::isfinite(value))
-        return QORIN_API_RESULT_ERROR_CBOX_INVALID_IO_VALUE;
-    (modules_[module].*values)[channel] = value;
-    return QORIN_API_RESULT_OK;
+    return set_analog_channel(modules_[module].*values, channel, value);
 }
 
 QORIN_API_RESULT io_modules::set_mode(channels<QORIN_ANALOG_IO_MODE> io_module::*modes, std::uint32_t module,
                                       std::uint32_t channel, QORIN_ANALOG_IO_MODE mode)
 {
-    if (module >= module_count || channel >= io_module::analog_channels)
+    if (module >= module_count)
         return QORIN_API_RESULT_ERROR_CBOX_INVALID_IO_NUMBER;
-    if (mode != QORIN_ANALOG_IO_MODE_VOLTAGE && mode != QORIN_ANALOG_IO_MODE_CURRENT)
-        return QORIN_API_RESULT_ERROR_CBOX_INVALID_IO_VALUE;
-    (modules_[module].*modes)[channel] = mode;
-    return QORIN_API_RESULT_OK;
+    return set_analog_mode(modules_[module].*modes, channel, mode);
 }
 } // namespace cbox_simulator

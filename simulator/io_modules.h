@@ -9,6 +9,7 @@
 
 #include "qorin/enumerations.h"
 #include "qorin/result.h"
+#include "simulator/block.h"
 
 namespace cbox_simulator
 {
@@ -48,6 +49,9 @@ public:
 
     QORIN_API_RESULT set_digital_input(std::uint32_t module, std::uint32_t channel, std::uint32_t value);
     QORIN_API_RESULT set_digital_output(std::uint32_t module, std::uint32_t channel, std::uint32_t value);
+    /// The first `count` outputs of the block, all of them or none.
+    QORIN_API_RESULT set_digital_outputs(std::uint32_t module, std::uint32_t count,
+                                         const block_of<std::uint32_t>& outputs, const block_of<std::uint32_t>& values);
     QORIN_API_RESULT set_redundant_input(std::uint32_t module, std::uint32_t channel, std::uint32_t value);
     QORIN_API_RESULT set_redundant_output(std::uint32_t module, std::uint32_t channel, std::uint32_t value);
 

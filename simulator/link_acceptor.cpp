@@ -84,7 +84,7 @@ void link_acceptor::admit(tcp::socket link)
     auto client = whose_turn(peer_.address());
     if (!client)
     {
-        client = std::make_shared<client_session>(++last_id_, peer_.address(), environment_);
+        client = std::make_shared<client_session>(++last_id_, peer_.address(), link.get_executor(), environment_);
         clients_.push_back(client);
     }
     client->add_link(std::move(link));

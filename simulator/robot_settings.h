@@ -79,11 +79,14 @@ struct drive
     std::array<std::uint16_t, 4> error_code{};
     double velocity_feedforward_ratio = 1;
     double torque_feedforward_ratio = 1;
+    double torque_feedforward_current = 0; ///< no frame shows it
 };
 
 /// The I/O module at the robot's flange. Bit n of a word is channel n.
 struct tool_module
 {
+    static constexpr std::uint32_t digital_channels = 4;
+
     std::string hw_name = "SIM.TOOL";
     std::string hw_version = "SIM.TOOL.HW.v1.0";
     std::string sw_version = "SIM.TOOL.v1.0";

@@ -9,6 +9,7 @@
 #include <type_traits>
 
 #include "simulator/argument_type.h"
+#include "simulator/block.h"
 #include "simulator/box_model.h"
 #include "simulator/command_table.h"
 #include "simulator/reply_writer.h"
@@ -32,9 +33,6 @@
  */
 namespace cbox_simulator
 {
-template <class Element>
-using block_of = std::array<Element, protocol::block_size / sizeof(Element)>;
-
 /// What a handler's arguments are taken from.
 struct command_call
 {
@@ -174,7 +172,7 @@ struct typed_command<function, QORIN_API_RESULT (*)(Parameters...)>
     {
         std::array<argument_type, (slots<Parameters> + ... + std::size_t{0})> types{};
         [[maybe_unused]] std::size_t next = 0;
-        const auto add = [&]<class Parameter>(std::type_identity<Parameter>)
+        [[maybe_unused]] const auto add = [&]<class Parameter>(std::type_identity<Parameter>)
         {
             if constexpr (slots<Parameter> == 1)
                 types[next++] = argument<Parameter>::type;
