@@ -6,8 +6,10 @@
 #include <fmt/format.h>
 
 #include "simulator/cbox_test_commands.h"
+#include "simulator/motion_commands.h"
 #include "simulator/robot_commands.h"
 #include "simulator/system_commands.h"
+#include "simulator/welding_commands.h"
 
 namespace cbox_simulator
 {
@@ -39,6 +41,8 @@ command_table make_command_table()
     command_table table;
     table.add(system_commands());
     table.add(robot_commands());
+    table.add(motion_commands());
+    table.add(welding_commands());
     table.add(cbox_test_commands());
     return table;
 }

@@ -41,9 +41,25 @@ robot_state::robot_state(const savrent::kinematics::arm_model& arm)
     follow_joints();
 }
 
+bool robot_state::can_stand_at(const joint_array& angles) const
+{
+    return std::ranges::equal(angles, arm_->joints, is_within);
+}
+
+pose robot_state::flange_pose_at(const joint_array& angles) const
+{
+    const auto [position, orientation] = solver_.forward(angles);
+    return {position[0], position[1], position[2], orientation[0], orientation[1], orientation[2]};
+}
+
+std::optional<joint_array> robot_state::joints_at(const pose& flange, const joint_array& reference) const
+{
+    return solver_.inverse({{flange[0], flange[1], flange[2]}, {flange[3], flange[4], flange[5]}}, reference);
+}
+
 QORIN_API_RESULT robot_state::set_joint_angles(const joint_array& angles)
 {
-    if (!std::ranges::equal(angles, arm_->joints, is_within))
+    if (!can_stand_at(angles))
         return QORIN_API_RESULT_ERROR_ROBOT_JOINT_PARAM_OUT_OF_RANGE;
     joint_angles_ = angles;
     follow_joints();
@@ -79,8 +95,7 @@ QORIN_API_RESULT robot_state::set_servo(QORIN_SWITCH value)
 
 void robot_state::follow_joints()
 {
-    const auto [position, orientation] = solver_.forward(joint_angles_);
-    flange_pose_ = {position[0], position[1], position[2], orientation[0], orientation[1], orientation[2]};
+    flange_pose_ = flange_pose_at(joint_angles_);
     follow_tool();
 }
 

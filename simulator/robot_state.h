@@ -1,6 +1,8 @@
 #ifndef SIMULATOR_ROBOT_STATE_H
 #define SIMULATOR_ROBOT_STATE_H
 
+#include <optional>
+
 #include "kinematics/arm_models.h"
 #include "kinematics/arm_solver.h"
 #include "qorin/result.h"
@@ -32,6 +34,12 @@ public:
     [[nodiscard]] const pose& tcp_pose() const { return tcp_pose_; }
     [[nodiscard]] const robot_settings& settings() const { return settings_; }
     [[nodiscard]] robot_settings& settings() { return settings_; }
+
+    /// Within the arm's range; false for what is no number.
+    [[nodiscard]] bool can_stand_at(const joint_array& angles) const;
+    [[nodiscard]] pose flange_pose_at(const joint_array& angles) const;
+    /// The solution that is nearest to the reference, whatever the arm's range. Nothing when it is out of reach.
+    [[nodiscard]] std::optional<joint_array> joints_at(const pose& flange, const joint_array& reference) const;
 
     /// Puts the arm there at once. An angle beyond the arm's range is
     /// QORIN_API_RESULT_ERROR_ROBOT_JOINT_PARAM_OUT_OF_RANGE.
