@@ -49,6 +49,8 @@ public:
     [[nodiscard]] robot_set& robots() { return robots_; }
     [[nodiscard]] motion_command_set& motion_commands() { return motion_commands_; }
     [[nodiscard]] motion_queue& motions() { return motions_; }
+    [[nodiscard]] const recording_files& files() const { return files_; }
+    [[nodiscard]] recording_files& files() { return files_; }
     [[nodiscard]] event_outbox& events() { return events_; }
 
     /// Needs no control, as it comes before the first take; yet nobody may do it under another client's hands.
@@ -88,6 +90,7 @@ private:
     event_outbox events_;
     cbox_state cbox_{events_};
     robot_set robots_;
+    recording_files files_;
     motion_command_set motion_commands_;
     motion_queue motions_{robots_, cbox_, events_};
 };

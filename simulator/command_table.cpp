@@ -7,6 +7,7 @@
 
 #include "simulator/cbox_test_commands.h"
 #include "simulator/motion_commands.h"
+#include "simulator/recording_commands.h"
 #include "simulator/robot_commands.h"
 #include "simulator/system_commands.h"
 #include "simulator/welding_commands.h"
@@ -43,6 +44,7 @@ command_table make_command_table()
     table.add(robot_commands());
     table.add(motion_commands());
     table.add(welding_commands());
+    table.add(recording_commands());
     table.add(cbox_test_commands());
     return table;
 }

@@ -63,6 +63,7 @@ QORIN_API_RESULT robot_state::set_joint_angles(const joint_array& angles)
         return QORIN_API_RESULT_ERROR_ROBOT_JOINT_PARAM_OUT_OF_RANGE;
     joint_angles_ = angles;
     follow_joints();
+    recordings_.follow(angles);
     return QORIN_API_RESULT_OK;
 }
 

@@ -7,6 +7,7 @@
 #include "kinematics/arm_solver.h"
 #include "qorin/result.h"
 #include "simulator/pose.h"
+#include "simulator/recordings.h"
 #include "simulator/robot_settings.h"
 
 namespace cbox_simulator
@@ -34,6 +35,7 @@ public:
     [[nodiscard]] const pose& tcp_pose() const { return tcp_pose_; }
     [[nodiscard]] const robot_settings& settings() const { return settings_; }
     [[nodiscard]] robot_settings& settings() { return settings_; }
+    [[nodiscard]] cbox_simulator::recordings& recordings() { return recordings_; }
 
     /// Within the arm's range; false for what is no number.
     [[nodiscard]] bool can_stand_at(const joint_array& angles) const;
@@ -62,6 +64,7 @@ private:
     pose flange_pose_{};
     pose tcp_pose_{};
     robot_settings settings_;
+    cbox_simulator::recordings recordings_;
 };
 } // namespace cbox_simulator
 
