@@ -30,6 +30,8 @@ QORIN_API_RESULT box_model::destroy_system(client_id client)
         return QORIN_API_RESULT_ERROR_YOU_DONT_HAVE_THE_CONTROL;
     if (!system_)
         return QORIN_API_RESULT_OK;
+    motions_.clear();
+    motion_commands_.destroy_all();
     robots_.destroy_all();
     system_.reset();
     cbox_.set_mobile_base_present(false);
@@ -55,6 +57,17 @@ QORIN_API_RESULT box_model::create_robot(QORIN_ROBOT_MODEL model, std::uint32_t&
 {
     return system_ ? robots_.create(model, system_->robot_capacity, id)
                    : QORIN_API_RESULT_ERROR_SYSTEM_CONTROL_SW_NOT_INIT;
+}
+
+QORIN_API_RESULT box_model::destroy_robot(std::uint32_t id)
+{
+    const auto result = robots_.destroy(id);
+    if (result == QORIN_API_RESULT_OK)
+    {
+        motions_.forget_robot(id);
+        motion_commands_.forget_robot(id);
+    }
+    return result;
 }
 
 QORIN_API_RESULT box_model::take_control(client_id client)

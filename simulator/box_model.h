@@ -12,6 +12,8 @@
 #include "simulator/cbox_state.h"
 #include "simulator/event_outbox.h"
 #include "simulator/fieldbus.h"
+#include "simulator/motion_command_set.h"
+#include "simulator/motion_queue.h"
 #include "simulator/robot_set.h"
 #include "simulator/service_data.h"
 #include "simulator/user_memory.h"
@@ -54,12 +56,17 @@ public:
     [[nodiscard]] fieldbus& fieldbuses() { return fieldbuses_; }
     [[nodiscard]] cbox_simulator::user_memory& user_memory() { return user_memory_; }
     [[nodiscard]] cbox_simulator::service_data& service_data() { return service_data_; }
+    [[nodiscard]] motion_command_set& motion_commands() { return motion_commands_; }
+    [[nodiscard]] motion_queue& motions() { return motions_; }
+    [[nodiscard]] const recording_files& files() const { return files_; }
+    [[nodiscard]] recording_files& files() { return files_; }
     [[nodiscard]] event_outbox& events() { return events_; }
 
     /// Needs no control, as it comes before the first take; yet nobody may do it under another client's hands.
     /// The EtherCAT network comes up with the system and goes down with it.
     QORIN_API_RESULT create_system(client_id client, const created_system& system);
-    /// Clients release before they destroy, so that control is not needed here either. The system's robots end with it.
+    /// Clients release before they destroy, so that control is not needed here either. The system's robots
+    /// and motion commands end with it.
     QORIN_API_RESULT destroy_system(client_id client);
     QORIN_API_RESULT reset_system(client_id client);
 
@@ -70,6 +77,8 @@ public:
     /// The system makes room for its robots: without one it is QORIN_API_RESULT_ERROR_SYSTEM_CONTROL_SW_NOT_INIT, and
     /// robot_set::create() decides otherwise.
     QORIN_API_RESULT create_robot(QORIN_ROBOT_MODEL model, std::uint32_t& id);
+    /// As robot_set::destroy(). The motion commands of the robot end with it.
+    QORIN_API_RESULT destroy_robot(std::uint32_t id);
 
     /// Who has the control changes with an event, whose sender id is the client.
     QORIN_API_RESULT take_control(client_id client);
@@ -105,6 +114,9 @@ private:
     cbox_simulator::user_memory user_memory_;
     cbox_simulator::service_data service_data_{cbox_};
     std::chrono::milliseconds reply_delay_{};
+    recording_files files_;
+    motion_command_set motion_commands_;
+    motion_queue motions_{robots_, cbox_, events_};
 };
 } // namespace cbox_simulator
 

@@ -11,6 +11,8 @@
 #include "simulator/fieldbus_commands.h"
 #include "simulator/force_control_commands.h"
 #include "simulator/memory_commands.h"
+#include "simulator/motion_commands.h"
+#include "simulator/recording_commands.h"
 #include "simulator/robot_commands.h"
 #include "simulator/robot_control_commands.h"
 #include "simulator/robot_setup_commands.h"
@@ -18,6 +20,7 @@
 #include "simulator/safety_limit_commands.h"
 #include "simulator/system_commands.h"
 #include "simulator/tool_io_commands.h"
+#include "simulator/welding_commands.h"
 
 namespace cbox_simulator
 {
@@ -58,6 +61,9 @@ command_table make_command_table()
     table.add(cbox_commands());
     table.add(fieldbus_commands());
     table.add(memory_commands());
+    table.add(motion_commands());
+    table.add(welding_commands());
+    table.add(recording_commands());
     table.add(cbox_test_commands());
     table.add(robot_test_commands());
     return table;

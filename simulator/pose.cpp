@@ -9,22 +9,33 @@
 
 namespace cbox_simulator
 {
-pose placed(const pose& outer, const pose& local)
+namespace
 {
-    namespace kinematics = savrent::kinematics;
-    const Eigen::Matrix3d rotation = kinematics::rotation_of({outer[3], outer[4], outer[5]});
-    const Eigen::Vector3d position = Eigen::Vector3d::Map(outer.data()) + rotation * Eigen::Vector3d::Map(local.data());
-    const auto turned = kinematics::orientation_of(rotation * kinematics::rotation_of({local[3], local[4], local[5]}));
-    return {position.x(), position.y(), position.z(), turned[0], turned[1], turned[2]};
+namespace kinematics = savrent::kinematics;
+
+Eigen::Matrix3d rotation_of(const pose& of)
+{
+    return kinematics::rotation_of({of[3], of[4], of[5]});
 }
 
-pose inverted(const pose& local)
+pose pose_of(const Eigen::Vector3d& position, const Eigen::Matrix3d& rotation)
 {
-    namespace kinematics = savrent::kinematics;
-    const Eigen::Matrix3d rotation = kinematics::rotation_of({local[3], local[4], local[5]}).transpose();
-    const Eigen::Vector3d position = -(rotation * Eigen::Vector3d::Map(local.data()));
-    const auto turned = kinematics::orientation_of(rotation);
-    return {position.x(), position.y(), position.z(), turned[0], turned[1], turned[2]};
+    const auto orientation = kinematics::orientation_of(rotation);
+    return {position.x(), position.y(), position.z(), orientation[0], orientation[1], orientation[2]};
+}
+} // namespace
+
+pose placed(const pose& outer, const pose& local)
+{
+    const Eigen::Matrix3d rotation = rotation_of(outer);
+    return pose_of(Eigen::Vector3d::Map(outer.data()) + rotation * Eigen::Vector3d::Map(local.data()),
+                   rotation * rotation_of(local));
+}
+
+pose outer_of(const pose& inner, const pose& local)
+{
+    const Eigen::Matrix3d rotation = rotation_of(inner) * rotation_of(local).transpose();
+    return pose_of(Eigen::Vector3d::Map(inner.data()) - rotation * Eigen::Vector3d::Map(local.data()), rotation);
 }
 
 std::array<double, 3> orientation_of_quaternion(double x, double y, double z, double w)

@@ -22,7 +22,7 @@ QORIN_API_RESULT create(box_model& model, QORIN_ROBOT_MODEL robot_model, std::st
 
 QORIN_API_RESULT destroy(box_model& model, std::uint32_t id)
 {
-    return model.robots().destroy(id);
+    return model.destroy_robot(id);
 }
 
 /// As many doubles of a block as the robot has joints.

@@ -48,13 +48,30 @@ robot_state::robot_state(const savrent::kinematics::arm_model& arm) : arm_(&arm)
     stand_still();
 }
 
+bool robot_state::can_stand_at(const joint_array& angles) const
+{
+    return std::ranges::equal(angles, arm_->joints, is_within);
+}
+
+pose robot_state::flange_pose_at(const joint_array& angles) const
+{
+    const auto [position, orientation] = solver_.forward(angles);
+    return {position[0], position[1], position[2], orientation[0], orientation[1], orientation[2]};
+}
+
+std::optional<joint_array> robot_state::joints_at(const pose& flange, const joint_array& reference) const
+{
+    return solver_.inverse({{flange[0], flange[1], flange[2]}, {flange[3], flange[4], flange[5]}}, reference);
+}
+
 QORIN_API_RESULT robot_state::set_joint_angles(const joint_array& angles)
 {
-    if (!std::ranges::equal(angles, arm_->joints, is_within))
+    if (!can_stand_at(angles))
         return QORIN_API_RESULT_ERROR_ROBOT_JOINT_PARAM_OUT_OF_RANGE;
     actual_.joints = angles;
     follow_joints(actual_);
     stand_still();
+    recordings_.follow(angles);
     return QORIN_API_RESULT_OK;
 }
 
@@ -122,10 +139,8 @@ void robot_state::take_profiler_point()
     }
     pose flange = point->values;
     if (profiler_.pose_type() == QORIN_POSE_TYPE_TCP)
-        flange = placed(flange, inverted(tcp_from_flange_));
-    const auto joints =
-        solver_.inverse({{flange[0], flange[1], flange[2]}, {flange[3], flange[4], flange[5]}}, actual_.joints);
-    if (joints)
+        flange = outer_of(flange, tcp_from_flange_);
+    if (const auto joints = joints_at(flange, actual_.joints))
         set_joint_angles(*joints);
 }
 
@@ -178,8 +193,10 @@ void robot_state::run_after_stream(double seconds)
         joint_speeds_[joint] = std::copysign(step, way) / seconds;
         moves = moves || step != 0;
     }
-    if (moves)
-        follow_joints(actual_);
+    if (!moves)
+        return;
+    follow_joints(actual_);
+    recordings_.follow(actual_.joints);
 }
 
 void robot_state::stand_still()
@@ -190,8 +207,7 @@ void robot_state::stand_still()
 
 void robot_state::follow_joints(stance& which) const
 {
-    const auto [position, orientation] = solver_.forward(which.joints);
-    which.flange = {position[0], position[1], position[2], orientation[0], orientation[1], orientation[2]};
+    which.flange = flange_pose_at(which.joints);
     follow_tool(which);
 }
 

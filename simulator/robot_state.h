@@ -10,6 +10,7 @@
 #include "simulator/dynamics_calibration.h"
 #include "simulator/external_profiler.h"
 #include "simulator/pose.h"
+#include "simulator/recordings.h"
 #include "simulator/robot_settings.h"
 #include "simulator/safety_planes.h"
 
@@ -56,6 +57,13 @@ public:
     [[nodiscard]] const external_profiler& profiler() const { return profiler_; }
     [[nodiscard]] external_profiler& profiler() { return profiler_; }
     [[nodiscard]] dynamics_calibration& calibration() { return calibration_; }
+    [[nodiscard]] cbox_simulator::recordings& recordings() { return recordings_; }
+
+    /// Within the arm's range; false for what is no number.
+    [[nodiscard]] bool can_stand_at(const joint_array& angles) const;
+    [[nodiscard]] pose flange_pose_at(const joint_array& angles) const;
+    /// The solution that is nearest to the reference, whatever the arm's range. Nothing when it is out of reach.
+    [[nodiscard]] std::optional<joint_array> joints_at(const pose& flange, const joint_array& reference) const;
 
     /// Puts the arm there at once. An angle beyond the arm's range is
     /// QORIN_API_RESULT_ERROR_ROBOT_JOINT_PARAM_OUT_OF_RANGE.
@@ -110,6 +118,7 @@ private:
     std::optional<bounding_shape> tcp_shape_;
     external_profiler profiler_;
     dynamics_calibration calibration_;
+    cbox_simulator::recordings recordings_;
 };
 } // namespace cbox_simulator
 
