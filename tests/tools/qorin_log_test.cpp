@@ -91,6 +91,10 @@ TEST_F(qorin_log_cat, tells_the_byte_offset_of_damage_and_prints_what_was_whole)
         {"cut_length", whole + "\x05", 10, "truncated record at byte offset 10"},
         {"foreign", "#!/bin/sh\necho no log at all\n", 0, "no log record at byte offset 0: its length would be"},
         {"other_key", whole + std::string("\x04\0\0\0abcd", 8), 10, "no log record at byte offset 10: its text"},
+        {"not_scrambled", whole + std::string("\x14\0\0\0[INFO] a plain text\n", 24), 10,
+         "no log record at byte offset 10: its text"},
+        {"arbitrary", whole + record("\x81\x02\xf3u\xe5v\xc7\x90w\xfa"), 10,
+         "no log record at byte offset 10: its text"},
     };
     for (const damage& damaged : cases)
     {
@@ -103,6 +107,14 @@ TEST_F(qorin_log_cat, tells_the_byte_offset_of_damage_and_prints_what_was_whole)
     }
     EXPECT_EQ(1, cat({{base_ / "missing"}, {}, false}));
     EXPECT_NE(std::string::npos, errors_.str().find("missing: no such file or directory"));
+}
+
+TEST_F(qorin_log_cat, spells_out_control_characters_of_an_application)
+{
+    append(call_ / "1000000.txt", record("write(\x1b[1mGr\xc3\xbcn \x1b[0m,\f\x7f\t)\r\n") + record("next\n"));
+    EXPECT_EQ(0, cat({{call_}, {}, false}));
+    EXPECT_EQ("write(\\x1B[1mGr\xc3\xbcn \\x1B[0m,\\x0C\\x7F\t)\r\nnext\n", out_.str());
+    EXPECT_EQ("", errors_.str());
 }
 
 TEST_F(qorin_log_cat, goes_on_behind_a_damaged_file)

@@ -15,11 +15,40 @@ constexpr std::uint64_t length_size = sizeof(std::uint32_t);
 /// No entry comes near it; a larger length is a foreign file's bytes.
 constexpr std::uint32_t longest_record = 1u << 20;
 
-/// Log texts hold line feeds and printable characters; control characters mean another key or no log at all.
+bool is_unprintable(unsigned char c)
+{
+    return (c < 0x20 && c != '\n' && c != '\t' && c != '\r') || c == 0x7f;
+}
+
+/**
+ * Whether the bytes are a log text.
+ *
+ * An application's own text stands in it as it came, in any encoding, and may bring some control characters along.
+ * Where plain text is taken for scrambled text, every third byte becomes one; of arbitrary bytes every ninth is
+ * one and every second lies beyond ASCII.
+ */
 bool is_log_text(const std::string& text)
 {
-    return std::all_of(text.begin(), text.end(),
-                       [](unsigned char c) { return c == '\n' || c == '\t' || c == '\r' || (c >= 0x20 && c != 0x7f); });
+    const auto unprintable = static_cast<std::size_t>(std::count_if(text.begin(), text.end(), is_unprintable));
+    const auto beyond_ascii =
+        static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](unsigned char c) { return c >= 0x80; }));
+    const bool arbitrary = unprintable * 16 > text.size() && (unprintable + beyond_ascii) * 2 > text.size();
+    return !arbitrary && unprintable * 6 <= text.size();
+}
+
+/// A terminal that shows the log must not obey what an application's text holds.
+std::string with_unprintable_spelled_out(const std::string& text)
+{
+    std::string shown;
+    shown.reserve(text.size());
+    for (const char c : text)
+    {
+        if (is_unprintable(static_cast<unsigned char>(c)))
+            shown += fmt::format("\\x{:02X}", static_cast<unsigned char>(c));
+        else
+            shown += c;
+    }
+    return shown;
 }
 } // namespace
 
@@ -53,7 +82,7 @@ std::optional<std::string> log_record_reader::next()
         throw damaged_log(
             fmt::format("{}: no log record at byte offset {}: its text is not readable", path_.string(), offset_));
     offset_ += length_size + length;
-    return text;
+    return with_unprintable_spelled_out(text);
 }
 
 void log_record_reader::expect_end()

@@ -31,6 +31,8 @@ public:
     /**
      * The text of the next whole record, or nothing when the file holds no further one as yet.
      *
+     * Control characters other than line feed, tab and carriage return stand in it as \xNN.
+     *
      * @throws damaged_log when what follows is no record
      */
     std::optional<std::string> next();

@@ -58,6 +58,11 @@ void util::createTrigTables(int size)
     msAngleUnit = AU_DEGREE;
     mTrigTableSize = size;
     mTrigTableFactor = size / TWO_PI;
+    if (size < 1)
+    {
+        destroyTrigTables();
+        return;
+    }
     const auto entries = static_cast<std::size_t>(size);
     if (sine_store.size() == entries)
     {
@@ -73,6 +78,10 @@ void util::createTrigTables(int size)
 
 void util::buildTrigTables()
 {
+    if (mSinTable == nullptr)
+    {
+        return;
+    }
     for (int i = 0; i < mTrigTableSize; ++i)
     {
         const double radians = i * TWO_PI / mTrigTableSize;

@@ -180,11 +180,11 @@ public:
      *
      * Tables of the same size are built once and kept until destroyTrigTables(); another size replaces them.
      *
-     * @param size Number of entries, at least 1.
+     * @param size Number of entries. Below 1 there are no tables, as after destroyTrigTables().
      */
     static void createTrigTables(int size = 4096);
     static void destroyTrigTables();
-    /** Fills the allocated tables; createTrigTables() calls it. */
+    /** Fills the allocated tables, if there are any; createTrigTables() calls it. */
     static void buildTrigTables();
     /** The sine's table entry below the angle. Needs tables, and an angle whose entry number fits an int. */
     static double SinTable(double radians);
