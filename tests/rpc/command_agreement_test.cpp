@@ -81,7 +81,7 @@ struct sample
         {
             const std::string word = fmt::format("text {}", place);
             std::memcpy(memory, word.c_str(), word.size());
-            text = '"' + word + '"';
+            text = fmt::format("\"{}\"", word);
         }
         else
         {
@@ -115,7 +115,7 @@ struct command_row
               [function](unsigned int cbox_id)
               {
                   int next = 0;
-                  const auto place = [&] { return next++; };
+                  [[maybe_unused]] const auto place = [&] { return next++; };
                   std::tuple<sample<Parameters>...> samples{sample<Parameters>(place())...};
                   return std::apply(
                       [&](auto&... each)
@@ -594,7 +594,7 @@ TEST(commands, arrive_with_every_argument_in_its_place)
         // Commands that need the control are refused without it, and the arguments are printed all the same; with it,
         // a robot that is not there is.
         const std::string arguments = command.call(id);
-        EXPECT_TRUE(console.take(' ' + command.wire_name + '(' + arguments + "): "))
+        EXPECT_TRUE(console.take(fmt::format(" {}({}): ", command.wire_name, arguments)))
             << command.wire_name << '(' << arguments << ") is not in:\n"
             << console.text();
     }
