@@ -211,6 +211,7 @@ TEST(command_call_line, shows_what_it_can_of_odd_arguments)
     QORIN_INTERPOLATOR interpolator[32] = {QORIN_INTERPOLATOR_ARC};
     const double* a = numbers.data();
 
+    ASSERT_EQ(0u, box.id) << "the first of its process";
     qorin_rpc_motion_command_robot_tcp_interpolator_get(box.id, 3, interpolator);
     qorin_rpc_robot_tool_io_digital_output_multiple_set(box.id, 1, 2, words.data(), words.data());
     qorin_rpc_robot_tool_io_rs485_modbus_rtu_write(box.id, 1, 2, 3, 4, 5, 6, bytes.data());
@@ -227,7 +228,7 @@ TEST(command_call_line, shows_what_it_can_of_odd_arguments)
                   "qorin_rpc_robot_tool_io_rs485_modbus_rtu_write(0, 1, 2, 3, 4, 5, 6, nullptr);\n",
                   "qorin_rpc_robot_tcp_from_flange_multiple_position_set(0, 1, 3, QORIN_POSE_TYPE_TCP, "
                   "QORIN_POSE_TYPE_TCP, QORIN_POSE_TYPE_TCP, QORIN_POSE_TYPE_TCP, QORIN_POSE_TYPE_TCP, "
-                  "QORIN_POSE_TYPE_TCP, &double_var);\n",
+                  "QORIN_POSE_TYPE_TCP, &qorin_float_t_var);\n",
                   "qorin_rpc_robot_ext_move_pos_ort_euler_add(0, 0, QORIN_POSE_TYPE_TCP, 1.000000, 2.000000, 3.000000, "
                   "4.000000, 5.000000, 6.000000, 7.000000);\n",
                   box_line + ");\n"}),
