@@ -35,6 +35,18 @@ robot_kinematics& kinematics_of(unsigned int robot_id)
     return *qorin_api::api_call_robot_internal_data::get_instance()->get(robot_id)->kinematics;
 }
 
+/**
+ * Judges the robot. Its record stays null while no control box is connected: the pose of a flange does without one, and
+ * that of a TCP is refused.
+ */
+QORIN_API_RESULT find_robot(unsigned int robot_id, QORIN_POSE_TYPE type, const robot_data_t*& robot)
+{
+    const QORIN_API_RESULT result = qorin_internal_robot_common_check(robot_id, &robot);
+    if (result == QORIN_API_RESULT_OK && robot == nullptr && type == QORIN_POSE_TYPE_TCP)
+        return QORIN_API_RESULT_ERROR_CBOX_ID_INVALID;
+    return result;
+}
+
 /// Joints of a robot that fit in a joint_buffer, whatever count the control box tells.
 std::uint32_t joint_count_of(const robot_data_t& robot)
 {
@@ -50,24 +62,25 @@ pose tcp_from_flange_of(const robot_data_t& robot)
     return tool;
 }
 
-/// The pose that a caller asks for, from that of the flange. Any type but the TCP's means the flange.
-pose from_flange(const pose& flange, QORIN_POSE_TYPE type, const robot_data_t& robot)
+/// The pose that a caller asks for, from that of the flange. Any type but the TCP's means the flange, and then `robot`
+/// may be null.
+pose from_flange(const pose& flange, QORIN_POSE_TYPE type, const robot_data_t* robot)
 {
     if (type != QORIN_POSE_TYPE_TCP)
         return flange;
-    const pose tool = tcp_from_flange_of(robot);
+    const pose tool = tcp_from_flange_of(*robot);
     pose tcp;
     custum_util::convert_flange_at_base_to_tcp_at_base(flange.position, flange.orientation, tool.position,
                                                        tool.orientation, tcp.position, tcp.orientation);
     return tcp;
 }
 
-/// The flange pose, which kinematics modules work on, from the pose that a caller gives.
-pose to_flange(const pose& given, QORIN_POSE_TYPE type, const robot_data_t& robot)
+/// The flange pose, which kinematics modules work on, from the pose that a caller gives; as above.
+pose to_flange(const pose& given, QORIN_POSE_TYPE type, const robot_data_t* robot)
 {
     if (type != QORIN_POSE_TYPE_TCP)
         return given;
-    const pose tool = tcp_from_flange_of(robot);
+    const pose tool = tcp_from_flange_of(*robot);
     pose flange;
     custum_util::convert_tcp_at_base_to_flange_at_base(given.position, given.orientation, tool.position,
                                                        tool.orientation, flange.position, flange.orientation);
@@ -122,31 +135,33 @@ QORIN_API_RESULT qorin_robot_util_joint_angle_to_pose_convert(unsigned int robot
                                                               const double* joints, double* position,
                                                               double* orientation)
 {
-    return read_robot(robot_id,
-                      [&](const robot_data_t& robot)
-                      {
-                          pose flange;
-                          kinematics_of(robot_id).forward(joints, flange.position, flange.orientation);
-                          const pose asked = from_flange(flange, type, robot);
-                          std::copy_n(asked.position.ptr(), 3, position);
-                          std::copy_n(asked.orientation.ptr(), 3, orientation);
-                      });
+    const robot_data_t* robot = nullptr;
+    const QORIN_API_RESULT result = find_robot(robot_id, type, robot);
+    if (result != QORIN_API_RESULT_OK)
+        return result;
+    pose flange;
+    kinematics_of(robot_id).forward(joints, flange.position, flange.orientation);
+    const pose asked = from_flange(flange, type, robot);
+    std::copy_n(asked.position.ptr(), 3, position);
+    std::copy_n(asked.orientation.ptr(), 3, orientation);
+    return QORIN_API_RESULT_OK;
 }
 
 QORIN_API_RESULT qorin_robot_util_pose_to_joint_angle_convert(unsigned int robot_id, QORIN_POSE_TYPE type,
                                                               const double* reference, const double* position,
                                                               const double* orientation, double* joints)
 {
-    return read_robot(robot_id,
-                      [&](const robot_data_t& robot)
-                      {
-                          const pose target = to_flange({vector3(position), vector3(orientation)}, type, robot);
-                          robot_kinematics& kinematics = kinematics_of(robot_id);
-                          if (kinematics.inverse(target.position, target.orientation, reference, joints))
-                              return QORIN_API_RESULT_OK;
-                          return walk(kinematics, joint_count_of(robot), reference, target, steps_after_failure,
-                                      joints);
-                      });
+    const robot_data_t* robot = nullptr;
+    const QORIN_API_RESULT result = find_robot(robot_id, type, robot);
+    if (result != QORIN_API_RESULT_OK)
+        return result;
+    const pose target = to_flange({vector3(position), vector3(orientation)}, type, robot);
+    robot_kinematics& kinematics = kinematics_of(robot_id);
+    if (kinematics.inverse(target.position, target.orientation, reference, joints))
+        return QORIN_API_RESULT_OK;
+    if (robot == nullptr) // nothing tells how many joints to walk with
+        return QORIN_API_RESULT_ERROR_CBOX_ID_INVALID;
+    return walk(kinematics, joint_count_of(*robot), reference, target, steps_after_failure, joints);
 }
 
 QORIN_API_RESULT qorin_robot_util_pose_to_joint_angle_convert_iterative(unsigned int robot_id, QORIN_POSE_TYPE type,
@@ -157,7 +172,7 @@ QORIN_API_RESULT qorin_robot_util_pose_to_joint_angle_convert_iterative(unsigned
     return read_robot(robot_id,
                       [&](const robot_data_t& robot)
                       {
-                          const pose target = to_flange({vector3(position), vector3(orientation)}, type, robot);
+                          const pose target = to_flange({vector3(position), vector3(orientation)}, type, &robot);
                           return walk(kinematics_of(robot_id), joint_count_of(robot), reference, target, steps, joints);
                       });
 }
@@ -202,7 +217,7 @@ QORIN_API_RESULT qorin_robot_util_position_trajectory_get(unsigned int robot_id,
                               pose flange;
                               const joint_buffer joints = move.at(i / static_cast<double>(point_count - 1));
                               kinematics.forward(joints.data(), flange.position, flange.orientation);
-                              const vector3 position = from_flange(flange, type, robot).position;
+                              const vector3 position = from_flange(flange, type, &robot).position;
                               x[i] = position.x;
                               y[i] = position.y;
                               z[i] = position.z;

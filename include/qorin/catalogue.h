@@ -3,8 +3,7 @@
  * Names, descriptions and advice for result codes, and for the events that report trouble.
  *
  * All functions here compute locally: they send nothing and block only to write a file. The texts belong to the
- * library; nothing is to be freed. Each catalogue is filled on its first use and takes no lock: let one call come
- * before other threads use it.
+ * library; nothing is to be freed. Each catalogue is filled once, on its first use. Any thread may call.
  */
 #ifndef QORIN_CATALOGUE_H
 #define QORIN_CATALOGUE_H

@@ -175,7 +175,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_util_position_trajectory_get(
  * @param joints       joint angles in degrees, one double per joint.
  * @param position     output: x, y, z, 3 doubles.
  * @param orientation  output: rx, ry, rz in degrees, 3 doubles.
- * @return as that one; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as that one; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected and the TCP is asked
+ *         for.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_util_joint_angle_to_pose_convert(unsigned int robot_id, QORIN_POSE_TYPE type,
                                                                         const double* joints, double* position,
@@ -190,7 +191,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_util_joint_angle_to_pose_convert(unsigned
  * @param position     x, y, z, 3 doubles.
  * @param orientation  rx, ry, rz in degrees, 3 doubles.
  * @param joints       output: joint angles in degrees, one double per joint.
- * @return as that one; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
+ * @return as that one; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected, unless the pose is
+ *         the flange's and has a solution near the reference.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_util_pose_to_joint_angle_convert(unsigned int robot_id, QORIN_POSE_TYPE type,
                                                                         const double* reference, const double* position,

@@ -216,6 +216,27 @@ TEST_F(recorded_conversion, robots_and_boxes_that_are_not_there_are_refused)
     EXPECT_EQ(0, solutions[0]);
 }
 
+TEST(conversion_without_a_control_box, needs_one_for_the_tool_and_the_number_of_joints)
+{
+    qorin_api_rpc::set_cur_cbox_id(99); // which nobody has connected
+    test_support::make_robot_present(1);
+    const joint_array joints = {10, -20, 70, 15, 50, -40};
+    joint_array found = {};
+    vector_array p = {};
+    vector_array o = {};
+    const auto to_pose = [&](QORIN_POSE_TYPE type)
+    { return qorin_robot_util_joint_angle_to_pose_convert(1, type, joints.data(), p.data(), o.data()); };
+    const auto to_joints = [&](QORIN_POSE_TYPE type)
+    { return qorin_robot_util_pose_to_joint_angle_convert(1, type, joints.data(), p.data(), o.data(), found.data()); };
+    EXPECT_EQ(QORIN_API_RESULT_OK, to_pose(flange));
+    EXPECT_EQ(QORIN_API_RESULT_OK, to_joints(flange));
+    EXPECT_NEAR(joints[2], found[2], 1e-6);
+    EXPECT_EQ(QORIN_API_RESULT_ERROR_CBOX_ID_INVALID, to_pose(tcp));
+    EXPECT_EQ(QORIN_API_RESULT_ERROR_CBOX_ID_INVALID, to_joints(tcp));
+    p = {1e6, 0, 0};
+    EXPECT_EQ(QORIN_API_RESULT_ERROR_CBOX_ID_INVALID, to_joints(flange)) << "out of reach, so it would be approached";
+}
+
 TEST_F(robot_conversion, poses_of_flange_and_tool_come_back_as_the_joints_that_they_are_of)
 {
     test_support::make_robot_present(1);
