@@ -64,6 +64,8 @@ bool print(unsigned int cbox_id, const char* name)
     case QORIN_USER_DATA_TYPE_LONGLONG:
         std::printf("%-8s wide integer %d\n", name, static_cast<int>(wide[0]));
         break;
+    default:
+        std::printf("%-8s no value\n", name);
     }
     return true;
 }
