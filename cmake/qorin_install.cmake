@@ -20,7 +20,8 @@ endforeach()
 configure_file(cmake/config.ini.in ${PROJECT_BINARY_DIR}/share/config.ini @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/share/config.ini DESTINATION ${qorin_data_directory} COMPONENT runtime)
 
-install(DIRECTORY include/qorin DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development FILES_MATCHING PATTERN "*.h")
+install(DIRECTORY include/qorin DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development
+        FILES_MATCHING PATTERN "*.h")
 install(DIRECTORY savrent/cc/math DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/savrent/cc COMPONENT development
         FILES_MATCHING PATTERN "*.h")
 install(FILES kinematics/savrent_kinematics.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/qorin COMPONENT development)
