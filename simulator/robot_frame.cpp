@@ -131,7 +131,6 @@ void render_robot(std::uint32_t id, const robot_state& robot, shared_data_t& fra
     put(&record.tcp_payload[1], settings.tcp_payload.centre_of_mass);
     put(record.installation_mount, settings.installation_mount);
     render_switches(settings.switches, record);
-    record.state_moving = QORIN_MOVING_STATE_IDLE; // nothing moves in time
     render_robot_functions(id, robot, frame);
     render_limits(settings, record);
     render_poses(robot, record);
