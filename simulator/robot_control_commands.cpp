@@ -1,5 +1,6 @@
 #include "simulator/robot_control_commands.h"
 
+#include "simulator/moving_state.h"
 #include "simulator/robot_setters.h"
 #include "simulator/typed_command.h"
 
@@ -16,7 +17,12 @@ bool is_linked(const box_model& model)
     return model.cbox().ecat_connection_state() == QORIN_ECAT_CONN_STATE_CONNECTED;
 }
 
-/// Reset, pause and resume in their forms without a time: the arm stands still in each of its states.
+QORIN_API_RESULT reset(robot_state& robot)
+{
+    return is_at_rest(robot.moving_state()) ? QORIN_API_RESULT_OK : QORIN_API_RESULT_ERROR_ROBOT_COULD_NOT_RESET_STATE;
+}
+
+/// Stop, pause and resume in their forms without a time: the arm stands still in each of its states.
 QORIN_API_RESULT leave_standing(robot_state&)
 {
     return QORIN_API_RESULT_OK;
@@ -95,13 +101,14 @@ QORIN_API_RESULT home_joint_position_reset(box_model& model, robot_state& robot,
 }
 
 /// A jog is judged only: it has no end of its own, and the simulated arm does not move in time. The arm must be free
-/// for it, which it is not while points from outside, a conveyor or another control mode have it.
+/// for it, which it is not while a motion, points from outside, a conveyor or another control mode have it.
 template <class... Values>
 QORIN_API_RESULT judge_jog(const robot_state& robot, Values... values)
 {
     const auto& kept = robot.settings();
-    if (kept.control_mode != QORIN_DRIVE_CONTROL_MODE_POSITION || kept.ext_move.active == QORIN_SWITCH_ON ||
-        robot.profiler().active() == QORIN_SWITCH_ON || kept.conveyor_mode == QORIN_CONVEYOR_MODE_ON)
+    if (!is_at_rest(robot.moving_state()) || kept.control_mode != QORIN_DRIVE_CONTROL_MODE_POSITION ||
+        kept.ext_move.active == QORIN_SWITCH_ON || robot.profiler().active() == QORIN_SWITCH_ON ||
+        kept.conveyor_mode == QORIN_CONVEYOR_MODE_ON)
         return QORIN_API_RESULT_ROBOT_UNABLE_JOG_STATE;
     return (is_possible(values) && ...) ? QORIN_API_RESULT_OK : QORIN_API_RESULT_ERROR_ROBOT_PARAM_OUT_OF_RANGE;
 }
@@ -128,7 +135,7 @@ constexpr auto switches = &settings::switches;
 constexpr auto targets = &settings::targets;
 
 constexpr command_row rows[] = {
-    controlled<leave_standing>("qorin_robot_reset"),
+    controlled<reset>("qorin_robot_reset"),
     controlled<leave_standing>("qorin_robot_stop_auto_time"),
     controlled<leave_standing>("qorin_robot_pause_auto_time"),
     controlled<leave_standing>("qorin_robot_resume"),

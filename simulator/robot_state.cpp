@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "simulator/moving_state.h"
 #include "simulator/value_checks.h"
 
 namespace cbox_simulator
@@ -148,8 +149,7 @@ QORIN_API_RESULT robot_state::set_joint_chaser(QORIN_SWITCH value)
 {
     if (!is_switch(value))
         return QORIN_API_RESULT_ERROR_ROBOT_PARAM_OUT_OF_RANGE;
-    const bool rests = moving_state_ == QORIN_MOVING_STATE_IDLE || moving_state_ == QORIN_MOVING_STATE_STOPPED;
-    if (value == QORIN_SWITCH_ON && !rests)
+    if (value == QORIN_SWITCH_ON && !is_at_rest(moving_state_))
         return QORIN_API_RESULT_ROBOT_IS_MOVING_STATE;
     settings_.switches.joint_chaser = value;
     stand_still();

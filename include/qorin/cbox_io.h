@@ -3,7 +3,8 @@
  * The control box: its EtherCAT master, operational mode and state, and its inputs and outputs.
  *
  * Functions named qorin_rpc_cbox_io_ are for the control box's own I/O, those named qorin_rpc_gen_cbox_io_ for one of
- * its I/O modules. What is set shows in the status mirror; the getters are in cbox.h.
+ * its I/O modules. What is set shows in the status mirror; the getters are in cbox.h. The states of manual control and
+ * of the user's program, the ranges of analog channels and the functions of redundant channels have no getter.
  *
  * @code
  * const unsigned int channels[32] = {0, 3}; // 32 numbers are read

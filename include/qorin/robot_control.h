@@ -149,6 +149,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_acc_dec_auto_adjustment_set(unsigned 
 /**
  * Switches the automatic adjustment of motions.
  *
+ * It does not show: qorin_rpc_robot_motion_auto_adjust_swith_get() tells the client's record, which is always off.
+ *
  * @param cbox_id      control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id     robot id, 0 or 1.
  * @param auto_adjust  QORIN_SWITCH_ON or QORIN_SWITCH_OFF.
@@ -467,7 +469,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_direct_teaching_force_to_switch_on(un
                                                                               unsigned int robot_id);
 
 /**
- * Sets how sensitively direct teaching takes the payload.
+ * Sets how sensitively direct teaching takes the payload. No getter tells it.
  *
  * @param cbox_id      control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id     robot id, 0 or 1.
@@ -684,8 +686,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_tcp_from_flange_set(unsigned int cbox
  * @param coordinate_4  fourth coordinate of each taught flange pose; 16 doubles are read whatever the count says.
  * @param coordinate_5  fifth coordinate of each taught flange pose; 16 doubles are read whatever the count says.
  * @param coordinate_6  sixth coordinate of each taught flange pose; 16 doubles are read whatever the count says.
- * @param result        output: one double, written whatever the result is; 16 doubles are read from it, so it needs
- *                      room for them.
+ * @param result        output: one double, written whatever the control box answers; 16 doubles are read from it, so
+ *                      it needs room for them.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_tcp_from_flange_multiple_position_set(

@@ -3,8 +3,8 @@
  * Motion from outside the queue: the external profiler, external move, conveyors.
  *
  * The external profiler takes a stream of points at a fixed period, external move single targets, and conveyor mode
- * makes a robot go along with a belt. What is set shows in the status mirror; the getters are in
- * robot_external_move_status.h.
+ * makes a robot go along with a belt. What is set of the profiler and of conveyor mode shows in the status mirror; the
+ * getters are in robot_external_move_status.h. The control box is asked for the switches of external move.
  *
  * @code
  * const double target[16] = {10.0, 0.0, 90.0, 0.0, 90.0, 0.0}; // 16 doubles are read

@@ -3,7 +3,8 @@
  * Limits that the control box enforces on a robot: joints, TCP, reduced mode, work space planes, bounding shape.
  *
  * A robot has up to 10 planes, whose ids, 0 to 9, the control box gives out, and one bounding shape about its TCP. What
- * is set shows in the status mirror; the getters are in robot_safety_status.h.
+ * is set shows in the status mirror; the getters are in robot_safety_status.h. Of the bounding shape only its switch
+ * shows.
  *
  * @code
  * unsigned int floor = 0;
@@ -17,7 +18,8 @@
  * Everything here is a command: system.h tells what commands have in common. Each returns as every command does. The
  * client judges nothing: ids, ranges and the order of limits are the control box's, which answers among others
  *   - QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID and QORIN_API_RESULT_ERROR_ROBOT_PARAM_OUT_OF_RANGE,
- *   - QORIN_API_RESULT_ERROR_ROBOT_SERVO_ON_STATE where the servo must be off.
+ *   - QORIN_API_RESULT_ERROR_ROBOT_SERVO_ON_STATE where the servo must be off,
+ *   - QORIN_API_RESULT_WARNING_ROBOT_WORK_SPACE_ALREADY_DELETED for deleting what is gone.
  *
  * Angles are in degrees. Where no unit is told, the control box defines it.
  */
@@ -159,7 +161,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_safety_limit_collision_detection_torq
  * @param origin_x  point of the plane along x.
  * @param origin_y  point of the plane along y.
  * @param origin_z  point of the plane along z.
- * @param plane_id  output: plane id. Written whatever the result is: 0 when the control box gave none.
+ * @param plane_id  output: plane id. Written whatever the control box answers: 0 when it gave none.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_safety_limit_plane_create_with_norm_origin(
@@ -178,7 +180,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_safety_limit_plane_create_with_norm_o
  * @param norm_y    normal along y.
  * @param norm_z    normal along z.
  * @param distance  constant term of the plane's equation.
- * @param plane_id  output: plane id. Written whatever the result is: 0 when the control box gave none.
+ * @param plane_id  output: plane id. Written whatever the control box answers: 0 when it gave none.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_safety_limit_plane_create_with_norm_distance(unsigned int cbox_id,

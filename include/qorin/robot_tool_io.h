@@ -165,7 +165,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_tool_io_rs485_io_tx_data_set(unsigned
  * @param value_3   third number.
  * @param value_4   fourth number.
  * @param value_5   fifth number.
- * @param data      output: 4 bytes, no more of the answer comes back; needs room for 4 bytes.
+ * @param data      output: 4 bytes, no more of the answer comes back; needs room for 4 bytes. 128 bytes are read from
+ *                  it, as from every output.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_tool_io_rs485_modbus_rtu_read(unsigned int cbox_id, unsigned int robot_id,

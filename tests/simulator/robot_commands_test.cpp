@@ -308,4 +308,15 @@ TEST(robot_commands, questions_are_answered_from_what_was_set)
     EXPECT_EQ(box.result("servo_switch_set", {1, 400100}), 102035u);
     EXPECT_EQ(box.result("home_position_reset", {1}), 102035u);
 }
+
+TEST(robot_commands, a_motion_stands_in_the_way_of_reset_and_jog)
+{
+    family_box box;
+    box.model.robots().find(1)->set_moving_state(QORIN_MOVING_STATE_PAUSED);
+    EXPECT_EQ(box.result("reset", {1}), 102005u);
+    EXPECT_EQ(box.result("jog_joint", {1, 0, 400400}, {1, 1}), 102019u);
+    box.model.robots().find(1)->set_moving_state(QORIN_MOVING_STATE_STOPPED);
+    EXPECT_EQ(box.result("reset", {1}), 100000u);
+    EXPECT_EQ(box.result("jog_joint", {1, 0, 400400}, {1, 1}), 100000u);
+}
 } // namespace
