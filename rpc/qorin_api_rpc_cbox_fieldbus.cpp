@@ -272,10 +272,10 @@ QORIN_API_RESULT qorin_rpc_cbox_ecat_io_link_tx_data_set(unsigned int cbox_id, u
     return command<"qorin_cbox_ecat_io_link_tx_data_set">(cbox_id, device, value, data);
 }
 
-QORIN_API_RESULT qorin_rpc_cbox_ecat_io_link_wp_tx_data_set(unsigned int cbox_id, unsigned int device,
-                                                            unsigned int value, const unsigned char* data)
+QORIN_API_RESULT qorin_rpc_cbox_ecat_io_link_wp_tx_data_set(unsigned int cbox_id, unsigned int port, unsigned int value,
+                                                            const unsigned char* data)
 {
-    return command<"qorin_cbox_ecat_io_link_wp_tx_data_set">(cbox_id, device, value, data);
+    return command<"qorin_cbox_ecat_io_link_wp_tx_data_set">(cbox_id, port, value, data);
 }
 
 QORIN_API_RESULT qorin_rpc_cbox_ecat_low_data_io_tx_data_set(unsigned int cbox_id, unsigned int device,

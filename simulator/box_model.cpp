@@ -93,6 +93,17 @@ QORIN_API_RESULT box_model::release_control(client_id client)
     return QORIN_API_RESULT_OK;
 }
 
+void box_model::run_cycle()
+{
+    robots_.run_cycle(control_cycle_us_ * 1e-6);
+    for (std::uint32_t id = 0; id < robot_set::robot_limit; ++id)
+    {
+        auto* robot = robots_.find(id);
+        if (robot && robot->recordings().take_time_out())
+            events_.post(QORIN_EVENT_GRP_NOTIFICATION, QORIN_EVENT_SUBGRP_NOTIFICATION_ROBOT_RECORDING_TIME_OUT, id);
+    }
+}
+
 QORIN_API_RESULT box_model::request_exit(client_id client)
 {
     if (held_by_another(client))

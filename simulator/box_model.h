@@ -85,8 +85,9 @@ public:
     QORIN_API_RESULT release_control(client_id client);
     [[nodiscard]] bool holds_control(client_id client) const { return control_owner_ == client; }
 
-    /// Lets one control cycle pass.
-    void run_cycle() { robots_.run_cycle(control_cycle_us_ * 1e-6); }
+    /// Lets one control cycle pass. A recording that has run out of its time gives an event, whose sender id is the
+    /// robot.
+    void run_cycle();
 
     /// The flag is acted upon by whoever serves the links, once the reply is on its way.
     QORIN_API_RESULT request_exit(client_id client);

@@ -102,6 +102,17 @@ QORIN_API_RESULT name_get(motion_command& command, std::uint32_t& start_of_name)
     return QORIN_API_RESULT_OK;
 }
 
+/// Of TCP motions only. Nothing slows the simulated one down.
+QORIN_API_RESULT adjusted_speed_get(motion_command& command, double& speed)
+{
+    if (!command.find<tcp_path>())
+        return QORIN_API_RESULT_ERROR_COULD_NOT_FIND_COMMAND_ID;
+    if (!command.robot_id)
+        return QORIN_API_RESULT_ERROR_ROBOT_ID_MUST_BE_SET_FIRST;
+    speed = command.speed_max;
+    return QORIN_API_RESULT_OK;
+}
+
 /// The event switch is the robot's: it is in force at once, and no command brings it back.
 QORIN_API_RESULT weaving_event_set(box_model& model, motion_command& command, QORIN_SWITCH value)
 {
@@ -294,8 +305,7 @@ constexpr command_row rows[] = {
     open_to_all<get<&tcp_path::speed_end>>("qorin_motion_command_robot_tcp_speed_end_get"),
     controlled<set<&tcp_path::radius, not_negative>>("qorin_motion_command_robot_tcp_radius_set"),
     open_to_all<get<&tcp_path::radius>>("qorin_motion_command_robot_tcp_radius_get"),
-    // Nothing slows the simulated motion down.
-    open_to_all<get<&command::speed_max>>("qorin_motion_command_robot_tcp_adjusted_speed_get"),
+    open_to_all<adjusted_speed_get>("qorin_motion_command_robot_tcp_adjusted_speed_get"),
     controlled<set<&tcp_path::coordinate>>("qorin_motion_command_robot_tcp_coordinate_set"),
     open_to_all<get<&tcp_path::coordinate>>("qorin_motion_command_robot_tcp_coordinate_get"),
     controlled<set<&tcp_path::pose_type>>("qorin_motion_command_robot_tcp_pose_type_set"),

@@ -99,7 +99,8 @@ bool is_ready_to_move(const robot_state& robot, const cbox_state& cbox)
 {
     const auto is_pushed = [](QORIN_BUTTON_STATE button) { return button == QORIN_BUTTON_STATE_PUSHED; };
     return robot.settings().switches.servo == QORIN_SWITCH_ON &&
-           robot.settings().control_mode == QORIN_DRIVE_CONTROL_MODE_POSITION && !is_pushed(cbox.emergency_button()) &&
+           robot.settings().control_mode == QORIN_DRIVE_CONTROL_MODE_POSITION &&
+           cbox.ecat_connection_state() == QORIN_ECAT_CONN_STATE_CONNECTED && !is_pushed(cbox.emergency_button()) &&
            std::ranges::none_of(cbox.amr_emergency_buttons(), is_pushed);
 }
 

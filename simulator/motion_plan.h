@@ -8,7 +8,7 @@
 
 namespace cbox_simulator
 {
-/// Servo on, drives in position mode, and no emergency button pushed.
+/// Servo on, drives in position mode and linked to the box, and no emergency button pushed.
 [[nodiscard]] bool is_ready_to_move(const robot_state& robot, const cbox_state& cbox);
 
 /**

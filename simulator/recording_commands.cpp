@@ -121,6 +121,14 @@ QORIN_API_RESULT interpolate(robot_state& robot, std::uint32_t id, QORIN_RECORDI
     return QORIN_API_RESULT_OK;
 }
 
+/// Each joint about where the recording starts: from elsewhere the arm would leap there.
+bool stands_at_start(const robot_state& robot, const recording& content)
+{
+    constexpr double tolerance = 0.1; // degrees
+    return std::ranges::equal(robot.joint_angles(), content.front(),
+                              [](double stands, double starts) { return std::abs(stands - starts) <= tolerance; });
+}
+
 /// Takes no time, as every simulated motion; the output is the number of entries that were played.
 QORIN_API_RESULT playback(box_model& model, robot_state& robot, std::uint32_t id, std::uint32_t& entries)
 {
@@ -129,6 +137,8 @@ QORIN_API_RESULT playback(box_model& model, robot_state& robot, std::uint32_t id
         return result;
     if (!is_ready_to_move(robot, model.cbox()))
         return QORIN_API_RESULT_ERROR_MOTION_UNINSERTABLE_STATE;
+    if (!stands_at_start(robot, *buffer))
+        return QORIN_API_RESULT_ROBOT_TARGET_START_POSE_NOT_MATCHED;
     for (const auto& angles : *buffer)
         robot.set_joint_angles(angles);
     entries = static_cast<std::uint32_t>(buffer->size());

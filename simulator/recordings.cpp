@@ -42,7 +42,10 @@ QORIN_API_RESULT recordings::end(std::uint32_t id)
 
 void recordings::follow(const savrent::kinematics::joint_array& angles)
 {
-    if (running_ && running_->size() < length_limit)
-        running_->push_back(angles);
+    if (!running_ || running_->size() == length_limit)
+        return;
+    running_->push_back(angles);
+    if (running_->size() == length_limit)
+        timed_out_ = true;
 }
 } // namespace cbox_simulator

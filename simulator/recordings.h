@@ -7,6 +7,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "kinematics/dh_table.h"
@@ -54,11 +55,14 @@ public:
     QORIN_API_RESULT end(std::uint32_t id);
     /// To be told of every change.
     void follow(const savrent::kinematics::joint_array& angles);
+    /// True once after a recording has become as long as it can be.
+    [[nodiscard]] bool take_time_out() { return std::exchange(timed_out_, false); }
 
 private:
     std::map<std::uint32_t, recording> buffers_;
     std::uint32_t last_id_ = 0;
     std::optional<recording> running_;
+    bool timed_out_ = false;
 };
 } // namespace cbox_simulator
 

@@ -20,7 +20,7 @@
  * Everything here is a command: system.h tells what commands have in common. Each returns as every command does. An
  * answer is one 32-bit value, also where the output is an array of bytes or of 16-bit registers: 4 bytes are written
  * through the pointer, so that the memory behind it must have room for them. What is set goes in one block: 128 bytes
- * or 64 registers. After a command that fails, outputs are 0.
+ * or 64 registers. After a command that the control box refuses, outputs are what it answered, usually 0.
  *
  * The control box judges names, addresses and numbers, and answers codes of the block 106000.
  */
@@ -493,7 +493,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_output_float_register_set(unsigned
  *
  * @param cbox_id          control box id from qorin_rpc_system_cbox_connect().
  * @param register_number  number of the register.
- * @param value            output: value; 0 after a command that fails.
+ * @param value            output: value; 0 when the control box has none to answer.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_output_bit_register_get(unsigned int cbox_id,
@@ -505,7 +505,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_output_bit_register_get(unsigned i
  *
  * @param cbox_id          control box id from qorin_rpc_system_cbox_connect().
  * @param register_number  number of the register.
- * @param value            output: value; 0 after a command that fails.
+ * @param value            output: value; 0 when the control box has none to answer.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_output_int_register_get(unsigned int cbox_id,
@@ -517,7 +517,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_output_int_register_get(unsigned i
  *
  * @param cbox_id          control box id from qorin_rpc_system_cbox_connect().
  * @param register_number  number of the register.
- * @param value            output: value; 0 after a command that fails.
+ * @param value            output: value; 0 when the control box has none to answer.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_output_float_register_get(unsigned int cbox_id,
@@ -528,7 +528,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_output_float_register_get(unsigned
  *
  * @param cbox_id          control box id from qorin_rpc_system_cbox_connect().
  * @param register_number  number of the register.
- * @param value            output: value; 0 after a command that fails.
+ * @param value            output: value; 0 when the control box has none to answer.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_input_bit_register_get(unsigned int cbox_id,
@@ -540,7 +540,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_input_bit_register_get(unsigned in
  *
  * @param cbox_id          control box id from qorin_rpc_system_cbox_connect().
  * @param register_number  number of the register.
- * @param value            output: value; 0 after a command that fails.
+ * @param value            output: value; 0 when the control box has none to answer.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_input_int_register_get(unsigned int cbox_id,
@@ -552,7 +552,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_input_int_register_get(unsigned in
  *
  * @param cbox_id          control box id from qorin_rpc_system_cbox_connect().
  * @param register_number  number of the register.
- * @param value            output: value; 0 after a command that fails.
+ * @param value            output: value; 0 when the control box has none to answer.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_input_float_register_get(unsigned int cbox_id,
@@ -576,12 +576,12 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ecat_io_link_tx_data_set(unsigned int 
  * Sets what a wireless IO-Link port sends.
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
- * @param device   device, 0 for the first.
+ * @param port     wireless port, 0 for the first.
  * @param value    second number of the place; the control box defines it.
  * @param data     bytes to send; 128 are read.
  * @return as every command.
  */
-QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ecat_io_link_wp_tx_data_set(unsigned int cbox_id, unsigned int device,
+QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ecat_io_link_wp_tx_data_set(unsigned int cbox_id, unsigned int port,
                                                                       unsigned int value, const unsigned char* data);
 
 /**

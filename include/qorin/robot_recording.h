@@ -13,6 +13,7 @@
  * // the robot is moved by hand
  * qorin_rpc_robot_recording_end(cbox_id, robot_id, buffer);
  * qorin_rpc_robot_recording_trim(cbox_id, robot_id, buffer); // may be left out
+ * // the robot is brought to where the recording starts
  * qorin_rpc_robot_recording_playback(cbox_id, robot_id, buffer, &value);
  * qorin_rpc_robot_recording_destroy(cbox_id, robot_id, buffer);
  * @endcode
@@ -124,7 +125,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_recording_end_without_error_check(uns
 /* Use. */
 
 /**
- * Cuts the rest of a buffer off.
+ * Trims a recording. The control box decides what goes.
  *
  * @param cbox_id    control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id   robot id, 0 or 1.

@@ -116,6 +116,8 @@ TEST_F(motion_test, a_command_needs_its_id_its_kind_and_its_robot)
     EXPECT_EQ(result("motion_command_robot_robot_id_set", {{joint, 2}}), 102000u);
     EXPECT_EQ(result("motion_command_robot_joint_angle_end_set", {{joint, 0}, {5}}), 104001u);
     EXPECT_EQ(result("motion_command_robot_weaving_event_set", {{joint, 400100}}), 104001u);
+    EXPECT_EQ(result("motion_command_robot_tcp_adjusted_speed_get", {{tcp}}), 104001u);
+    EXPECT_EQ(result("motion_command_robot_tcp_adjusted_speed_get", {{joint}}), 104002u);
     EXPECT_EQ(result("motion_command_queue_add", {{joint}}), 200005u) << "nothing set";
     EXPECT_EQ(result("motion_command_acc_max_set", {{joint}, {5}}), 100000u) << "not the robot's";
     EXPECT_EQ(result("motion_command_queue_add", {{joint}}), 104001u);
@@ -156,6 +158,10 @@ TEST_F(motion_test, a_flush_runs_the_queue_in_its_order_or_not_at_all)
     EXPECT_EQ(angle(0), 0);
     EXPECT_EQ(events(), told{});
     model.robots().set_servo(0, QORIN_SWITCH_ON);
+    model.set_ecat_link(false);
+    EXPECT_EQ(result("motion_command_queue_flush"), 104008u);
+    model.set_ecat_link(true);
+    events();
     EXPECT_EQ(result("motion_command_queue_flush"), 100000u);
     EXPECT_EQ(angle(0), 30);
     EXPECT_EQ(angle(1), -10);

@@ -40,6 +40,9 @@ TEST_F(recording_test, a_recorded_motion_is_kept_played_and_saved)
     EXPECT_EQ(angle_of("end", {{0, buffer, 0}}), 25);
     EXPECT_EQ(on("angle_end_get", {{0, buffer, 6}}), 103001u);
     EXPECT_EQ(on("angle_end_get", {{1, buffer, 0}}), 102020u) << "the other robot's buffers are its own";
+    EXPECT_EQ(on("playback", {{0, buffer}}), 102042u);
+    EXPECT_EQ(angle(0), -40);
+    robots.set_joint_angles(0, {0.05, 0, 90, 0, 90, 0});
     EXPECT_EQ(on("playback", {{0, buffer}}), 100000u);
     EXPECT_EQ(angle(0), 25);
 
@@ -57,5 +60,26 @@ TEST_F(recording_test, a_recorded_motion_is_kept_played_and_saved)
     destroy(1);
     create(401511);
     EXPECT_EQ(on("create_from_file", {{1}, {}, "weld.rec"}), 102021u) << "of another arm";
+}
+
+TEST_F(recording_test, a_recording_that_becomes_too_long_is_told_once)
+{
+    const auto told = [&]
+    {
+        model.run_cycle();
+        return model.events().take();
+    };
+    EXPECT_EQ(on("start", {{1}}), 100000u);
+    auto& running = model.robots().find(1)->recordings();
+    for (std::size_t length = 1; length < cbox_simulator::recordings::length_limit - 1; ++length)
+        running.follow({});
+    EXPECT_TRUE(told().empty());
+    running.follow({});
+    const auto events = told();
+    ASSERT_EQ(events.size(), 1u);
+    EXPECT_EQ(events[0].subgroup, 308011u);
+    EXPECT_EQ(events[0].sender_id, 1u);
+    running.follow({});
+    EXPECT_TRUE(told().empty());
 }
 } // namespace
