@@ -7,12 +7,14 @@
  * robot_force_status.h.
  *
  * @code
+ * const QORIN_SWITCH on = QORIN_SWITCH_ON;
+ * const QORIN_SWITCH off = QORIN_SWITCH_OFF;
  * qorin_rpc_robot_force_ctrl_coordinate_set(cbox_id, robot_id, QORIN_REF_COORDINATE_BASE);
- * qorin_rpc_robot_force_ctrl_direction_switch_set(cbox_id, robot_id, QORIN_SWITCH_OFF, QORIN_SWITCH_OFF,
- * QORIN_SWITCH_ON, QORIN_SWITCH_OFF, QORIN_SWITCH_OFF, QORIN_SWITCH_OFF); qorin_rpc_robot_force_ctrl_force_set(cbox_id,
- * robot_id, 0.0, 0.0, -20.0, 0.0, 0.0, 0.0); qorin_rpc_robot_force_ctrl_switch_set(cbox_id, robot_id, QORIN_SWITCH_ON);
+ * qorin_rpc_robot_force_ctrl_direction_switch_set(cbox_id, robot_id, off, off, on, off, off, off);
+ * qorin_rpc_robot_force_ctrl_force_set(cbox_id, robot_id, 0.0, 0.0, -20.0, 0.0, 0.0, 0.0);
+ * qorin_rpc_robot_force_ctrl_switch_set(cbox_id, robot_id, on);
  * // the robot presses downwards
- * qorin_rpc_robot_force_ctrl_switch_set(cbox_id, robot_id, QORIN_SWITCH_OFF);
+ * qorin_rpc_robot_force_ctrl_switch_set(cbox_id, robot_id, off);
  * @endcode
  *
  * Everything here is a command: system.h tells what commands have in common. Each returns as every command does. The
