@@ -6,15 +6,17 @@
  * travels in 128 bytes: a longer one is cut, without a terminator.
  *
  * @code
+ * const char press[128] = "press"; // 128 bytes are read from each text
+ * const char force[128] = "press.force";
+ * const char address[128] = "127.0.0.1";
  * unsigned short registers[64] = {0}; // an output of this family gets 4 bytes, and 128 are read from it
- * qorin_rpc_cbox_ext_modbus_client_create(cbox_id, "press", "127.0.0.1", 502, "127.0.0.1", 0);
- * qorin_rpc_cbox_ext_modbus_client_io_create(cbox_id, "press.force", QORIN_MODBUS_CLIENT_IO_TYPE_REGISTER_INPUT, 0, 2,
- *                                            "press");
- * qorin_rpc_cbox_ext_modbus_client_io_start(cbox_id, "press.force", QORIN_MODBUS_CLIENT_IO_UPDATE_HZ_10);
- * qorin_rpc_cbox_ext_modbus_client_register_io_get(cbox_id, "press.force", 0, registers);
- * qorin_rpc_cbox_ext_modbus_client_io_stop(cbox_id, "press.force");
- * qorin_rpc_cbox_ext_modbus_client_io_destroy(cbox_id, "press.force");
- * qorin_rpc_cbox_ext_modbus_client_destroy(cbox_id, "press");
+ * qorin_rpc_cbox_ext_modbus_client_create(cbox_id, press, address, 502, address, 0);
+ * qorin_rpc_cbox_ext_modbus_client_io_create(cbox_id, force, QORIN_MODBUS_CLIENT_IO_TYPE_REGISTER_INPUT, 0, 2, press);
+ * qorin_rpc_cbox_ext_modbus_client_io_start(cbox_id, force, QORIN_MODBUS_CLIENT_IO_UPDATE_HZ_10);
+ * qorin_rpc_cbox_ext_modbus_client_register_io_get(cbox_id, force, 0, registers);
+ * qorin_rpc_cbox_ext_modbus_client_io_stop(cbox_id, force);
+ * qorin_rpc_cbox_ext_modbus_client_io_destroy(cbox_id, force);
+ * qorin_rpc_cbox_ext_modbus_client_destroy(cbox_id, press);
  * @endcode
  *
  * Everything here is a command: system.h tells what commands have in common. Each returns as every command does. An

@@ -6,8 +6,9 @@
  * another by that id, and queues it. Ids are good on the control box that gave them, whoever asks there.
  *
  * @code
- * unsigned int move = 0;
- * qorin_rpc_motion_command_robot_joint_create(cbox_id, &move);
+ * unsigned int id[32] = {0}; // 128 bytes are read from an output
+ * qorin_rpc_motion_command_robot_joint_create(cbox_id, id);
+ * const unsigned int move = id[0];
  * qorin_rpc_motion_command_robot_robot_id_set(cbox_id, move, robot_id); // ahead of all parameters of the robot
  * for (unsigned int joint = 0; joint < 6; ++joint)
  *     qorin_rpc_motion_command_robot_joint_angle_end_set(cbox_id, move, joint, 10.0);

@@ -8,9 +8,9 @@
  * no getter.
  *
  * @code
- * qorin_rpc_robot_force_ctrl_coordinate_set(cbox_id, robot_id, QORIN_REF_COORDINATE_BASE);
  * const QORIN_SWITCH on = QORIN_SWITCH_ON;
  * const QORIN_SWITCH off = QORIN_SWITCH_OFF;
+ * qorin_rpc_robot_force_ctrl_coordinate_set(cbox_id, robot_id, QORIN_REF_COORDINATE_BASE);
  * qorin_rpc_robot_force_ctrl_direction_switch_set(cbox_id, robot_id, off, off, on, off, off, off);
  * qorin_rpc_robot_force_ctrl_force_set(cbox_id, robot_id, 0.0, 0.0, -20.0, 0.0, 0.0, 0.0);
  * qorin_rpc_robot_force_ctrl_switch_set(cbox_id, robot_id, on);

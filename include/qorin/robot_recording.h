@@ -6,15 +6,16 @@
  * sees neither.
  *
  * @code
- * unsigned int buffer = 0;
- * unsigned int value = 0;
- * qorin_rpc_robot_recording_create(cbox_id, robot_id, &buffer);
+ * unsigned int id[32] = {0}; // 128 bytes are read from an output
+ * unsigned int value[32] = {0};
+ * qorin_rpc_robot_recording_create(cbox_id, robot_id, id);
+ * const unsigned int buffer = id[0];
  * qorin_rpc_robot_recording_start(cbox_id, robot_id);
  * // the robot is moved by hand
  * qorin_rpc_robot_recording_end(cbox_id, robot_id, buffer);
  * qorin_rpc_robot_recording_trim(cbox_id, robot_id, buffer); // may be left out
  * // the robot is brought to where the recording starts
- * qorin_rpc_robot_recording_playback(cbox_id, robot_id, buffer, &value);
+ * qorin_rpc_robot_recording_playback(cbox_id, robot_id, buffer, value);
  * qorin_rpc_robot_recording_destroy(cbox_id, robot_id, buffer);
  * @endcode
  *

@@ -7,12 +7,12 @@
  * shows.
  *
  * @code
- * unsigned int floor = 0;
+ * unsigned int floor[32] = {0}; // 128 bytes are read from an output
  * qorin_rpc_robot_safety_limit_joint_angle_set(cbox_id, robot_id, 0, -90.0, 90.0);
- * qorin_rpc_robot_safety_limit_plane_create_with_norm_distance(cbox_id, robot_id, 0.0, 0.0, 1.0, 0.0, &floor);
+ * qorin_rpc_robot_safety_limit_plane_create_with_norm_distance(cbox_id, robot_id, 0.0, 0.0, 1.0, 0.0, floor);
  * qorin_rpc_robot_safety_limit_switch_set(cbox_id, robot_id, QORIN_SWITCH_ON);
  * // the robot is kept within
- * qorin_rpc_robot_safety_limit_plane_remove(cbox_id, robot_id, floor);
+ * qorin_rpc_robot_safety_limit_plane_remove(cbox_id, robot_id, floor[0]);
  * @endcode
  *
  * Everything here is a command: system.h tells what commands have in common. Each returns as every command does. The

@@ -3,15 +3,17 @@
  * User memory: values that a control box keeps by name, for its clients and programs to share; and a sleep there.
  *
  * @code
- * QORIN_USER_DATA_TYPE type = QORIN_USER_DATA_TYPE_INT;
- * int number = 0;
+ * const char name[128] = "parts"; // 128 bytes are read from each pointer
+ * const char no_text[128] = "";
+ * QORIN_USER_DATA_TYPE type[32] = {};
+ * int number[32] = {0};
  * char text[128] = ""; // the first 4 bytes come back
- * char flag[4] = "";   // 4 bytes are written
- * double real = 0.0;
- * long wide = 0;
- * qorin_rpc_set_user_memory(cbox_id, "parts", QORIN_USER_DATA_TYPE_INT, 12, "", 0, 0.0, 0);
- * qorin_rpc_get_user_memory(cbox_id, "parts", &type, &number, text, flag, &real, &wide);
- * qorin_rpc_delete_user_memory(cbox_id, "parts");
+ * char flag[128] = ""; // 4 bytes are written
+ * double real[16] = {0.0};
+ * long wide[16] = {0};
+ * qorin_rpc_set_user_memory(cbox_id, name, QORIN_USER_DATA_TYPE_INT, 12, no_text, 0, 0.0, 0);
+ * qorin_rpc_get_user_memory(cbox_id, name, type, number, text, flag, real, wide);
+ * qorin_rpc_delete_user_memory(cbox_id, name);
  * @endcode
  *
  * Everything here is a command: system.h tells what commands have in common. Each returns as every command does. The
