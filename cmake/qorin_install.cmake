@@ -25,7 +25,8 @@ install(DIRECTORY include/qorin DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONEN
 install(DIRECTORY savrent/cc/math DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/savrent/cc COMPONENT development
         FILES_MATCHING PATTERN "*.h")
 install(FILES kinematics/savrent_kinematics.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/qorin COMPONENT development)
-install(FILES README.md CHANGELOG.md docs/architecture.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development)
+install(FILES README.md CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development)
+install(DIRECTORY docs DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development FILES_MATCHING PATTERN "*.md")
 
 configure_package_config_file(cmake/qorin_api_rpc_client-config.cmake.in
                               ${PROJECT_BINARY_DIR}/share/qorin_api_rpc_client-config.cmake
