@@ -9,8 +9,8 @@
 
 #include "protocol/event_record.h"
 #include "protocol/rpc_record.h"
-#include "simulator/box_model.h"
 #include "simulator/log.h"
+#include "simulator/model/box_model.h"
 
 namespace cbox_simulator
 {

@@ -8,7 +8,7 @@
 
 #include <boost/asio/post.hpp>
 
-#include "simulator/frame_renderer.h"
+#include "simulator/frame/frame_renderer.h"
 
 namespace cbox_simulator
 {

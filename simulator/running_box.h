@@ -12,9 +12,9 @@
 
 #include "protocol/status_frame.h"
 #include "simulator/control_box.h"
-#include "simulator/frame_clock.h"
-#include "simulator/joint_chaser.h"
-#include "simulator/link_acceptor.h"
+#include "simulator/frame/frame_clock.h"
+#include "simulator/links/joint_chaser.h"
+#include "simulator/links/link_acceptor.h"
 
 namespace cbox_simulator
 {

@@ -16,7 +16,7 @@
 #include <gtest/gtest.h>
 
 #include "qorin/qorin_api_rpc_client.h"
-#include "simulator/command_table.h"
+#include "simulator/commands/command_table.h"
 #include "simulator/control_box.h"
 #include "tests/support/installation.h"
 #include "tests/support/loopback.h"
@@ -509,8 +509,7 @@ const std::vector<command_row>& commands()
         COMMAND(ts_robot_joint_velocity_feedforward_ratio_set),
         COMMAND(ts_robot_tool_io_digital_input_set),
         COMMAND(ts_safety_module_redundant_io_digital_input_set),
-        COMMAND(system_control_sw_exit),
-    };
+        COMMAND(system_control_sw_exit)};
     return rows;
 }
 

@@ -9,8 +9,8 @@
 
 #include <gtest/gtest.h>
 
-#include "simulator/box_model.h"
-#include "simulator/frame_renderer.h"
+#include "simulator/frame/frame_renderer.h"
+#include "simulator/model/box_model.h"
 
 namespace
 {

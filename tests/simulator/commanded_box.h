@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <cstring>
 
-#include "simulator/command_table.h"
-#include "simulator/frame_renderer.h"
+#include "simulator/commands/command_table.h"
+#include "simulator/frame/frame_renderer.h"
 #include "tests/simulator/raw_client.h"
 
 /// A box whose commands are called as a link would, with a system for two robots in the control of client 1.

@@ -1,4 +1,4 @@
-#include "simulator/joint_chaser.h"
+#include "simulator/links/joint_chaser.h"
 
 #include <cmath>
 #include <cstring>

@@ -1,4 +1,4 @@
-#include "simulator/request_reader.h"
+#include "simulator/commands/request_reader.h"
 
 #include <cstring>
 #include <string>
@@ -6,7 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "qorin/enumerations.h"
-#include "simulator/reply_writer.h"
+#include "simulator/commands/reply_writer.h"
 
 namespace
 {

@@ -1,0 +1,66 @@
+#include "simulator/commands/robot_commands.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "simulator/commands/typed_command.h"
+
+namespace cbox_simulator
+{
+namespace
+{
+using savrent::kinematics::dh_table;
+using savrent::kinematics::joint_array;
+using savrent::kinematics::joint_count;
+
+/// Text and value say nothing to the simulated box: the model alone tells the arm.
+QORIN_API_RESULT create(box_model& model, QORIN_ROBOT_MODEL robot_model, std::string_view, std::uint32_t,
+                        std::uint32_t& id)
+{
+    return model.create_robot(robot_model, id);
+}
+
+QORIN_API_RESULT destroy(box_model& model, std::uint32_t id)
+{
+    return model.destroy_robot(id);
+}
+
+/// As many doubles of a block as the robot has joints.
+joint_array joints_of(const block_of<double>& block)
+{
+    joint_array joints;
+    std::copy_n(block.begin(), joints.size(), joints.begin());
+    return joints;
+}
+
+QORIN_API_RESULT dh_parameter_set(robot_state& robot, std::uint32_t count, const block_of<double>& theta,
+                                  const block_of<double>& d, const block_of<double>& a, const block_of<double>& alpha)
+{
+    if (count != joint_count)
+        return QORIN_API_RESULT_ERROR_ROBOT_NUMBER_OF_JOINT_NOT_MATCHED;
+    dh_table table;
+    table.theta = joints_of(theta);
+    table.d = joints_of(d);
+    table.a = joints_of(a);
+    table.alpha = joints_of(alpha);
+    return robot.set_table(table);
+}
+
+QORIN_API_RESULT joint_chaser_state_set(robot_state& robot, QORIN_SWITCH value)
+{
+    return robot.set_joint_chaser(value);
+}
+
+constexpr command_row rows[] = {
+    controlled<create>("qorin_robot_create"),
+    controlled<destroy>("qorin_robot_destroy"),
+    controlled<dh_parameter_set>("qorin_robot_kinematics_dh_parameter_set"),
+    controlled<joint_chaser_state_set>("qorin_robot_joint_chaser_state_set"),
+};
+} // namespace
+
+std::span<const command_row> robot_commands()
+{
+    return rows;
+}
+} // namespace cbox_simulator
