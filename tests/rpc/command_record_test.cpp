@@ -125,9 +125,8 @@ TEST_F(command_record, texts_and_arrays)
                            {0x80, {1u, 0xFFu, 3u, 0xFFFEu, 5u, 0x80u}},
                            {0x200, {0x01FEu}}});
 
-    room<char> endless;
-    endless.fill('x');
-    qorin_rpc_robot_recording_file_save(box.id, 0, 7, endless.data());
+    const std::string longer(200, 'x'); // than its slot: cut there, without a terminator
+    qorin_rpc_robot_recording_file_save(box.id, 0, 7, longer.c_str());
     expect_record(last(),
                   {{0, "qorin_robot_recording_file_save"}, {0x80, {0u, 7u}}, {0x200, std::string(128, 'x').c_str()}});
 }
