@@ -34,7 +34,7 @@ std::string transported()
     std::string lines;
     savrent::cc::val_obj::savrent_log_info record;
     while (savrent::cc::internal_log_proc::get_instance()->sender().get(record))
-        lines += std::string(record.text) + "|";
+        lines.append(record.text).append("|");
     return lines;
 }
 
@@ -69,7 +69,9 @@ TEST(debug_print, hands_lines_to_the_transport_after_its_initialisation)
     EXPECT_EQ("", printed("long %s", std::string(600, 'x').c_str()));
     EXPECT_NE(std::string::npos, transported().find("[ERROR] long %s|")) << "the format stands for a long message";
 
-    EXPECT_EQ("", printed((std::string(512, 'x') + "%s").c_str(), ""));
+    std::string long_format(512, 'x');
+    long_format.append("%s");
+    EXPECT_EQ("", printed(long_format.c_str(), ""));
     EXPECT_NE(std::string::npos, transported().find("software error, line 127 at debug_print : Message Size Overflow"));
 }
 
