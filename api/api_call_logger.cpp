@@ -1,18 +1,19 @@
 #include "api/api_call_logger.h"
 
-#include <algorithm>
 #include <array>
 #include <chrono>
 #include <cstdint>
 #include <cstdlib>
 #include <ctime>
+#include <deque>
 #include <filesystem>
-#include <fstream>
 #include <span>
-#include <vector>
+
+#include <fcntl.h>
 
 #include "api/api_call_log_data.h"
-#include "savrent/cc/encrypt.h"
+#include "api/own_file.h"
+#include "api/record_log.h"
 #include "savrent/cc/immortal.h"
 #include "savrent/cc/os_util.h"
 #include "savrent/cc/system_config_parser.h"
@@ -27,35 +28,15 @@ using savrent::cc::immortal;
 
 constexpr std::uint32_t calls_per_file = 10'000;
 
-immortal<std::ofstream> cur_func_call_log_file;
-immortal<std::ofstream> cur_event_log_file;
-immortal<std::vector<std::string>> g_prev_pushed_log;
-immortal<std::vector<std::string>> g_prev_pushed_event_log;
+immortal<std::deque<std::string>> g_prev_pushed_log;
+immortal<std::deque<std::string>> g_prev_pushed_event_log;
+std::array<char, 10240> encrypted_line;
+std::array<char, 2048> tmpline;
+immortal<record_log> cur_func_call_log_file("call log", *g_prev_pushed_log, std::size_t{3}, encrypted_line);
+immortal<record_log> cur_event_log_file("event log", *g_prev_pushed_event_log, std::size_t{1}, tmpline);
 
-/// Writes the length, then the text scrambled through `scratch`, in pieces when it is longer than that.
-void write_record(std::ofstream& file, std::string_view text, std::span<char> scratch)
-{
-    const auto length = static_cast<std::uint32_t>(text.size());
-    file.write(reinterpret_cast<const char*>(&length), sizeof(length));
-    for (std::size_t done = 0; done < text.size(); done += scratch.size())
-    {
-        const std::size_t piece = std::min(scratch.size(), text.size() - done);
-        savrent::cc::encrypt_piece(text.data() + done, scratch.data(), piece, done);
-        file.write(scratch.data(), static_cast<std::streamsize>(piece));
-    }
-}
-
-void write_call_record(std::string_view text)
-{
-    static std::array<char, 10240> encrypted_line;
-    write_record(*cur_func_call_log_file, text, encrypted_line);
-}
-
-void write_event_record(std::string_view text)
-{
-    static std::array<char, 2048> tmpline;
-    write_record(*cur_event_log_file, text, tmpline);
-}
+/// Whether the data file holds what this process last wanted to write there.
+bool data_file_is_written = false;
 
 /// The directory under which each run makes its own two, with a '/' at its end.
 std::string log_base_directory()
@@ -79,12 +60,17 @@ std::string directory_name(std::time_t instant, const char* format)
     return name;
 }
 
-void reopen(std::ofstream& file, const std::string& path, std::ios::openmode mode)
+/// What another user or an earlier run left there would lead this run's logs astray.
+void data_file_read(api_call_log_fields& fields)
 {
-    if (file.is_open())
-        file.close();
-    file.clear();
-    file.open(path, mode);
+    own_file file;
+    api_call_log_fields stored = {};
+    if (!data_file_is_written || !file.open(get_data_filename(), O_RDONLY) ||
+        !file.read(std::as_writable_bytes(std::span(&stored, 1))))
+        return;
+    stored.call_log_directory[sizeof(stored.call_log_directory) - 1] = '\0';
+    stored.event_log_directory[sizeof(stored.event_log_directory) - 1] = '\0';
+    fields = stored;
 }
 } // namespace
 
@@ -107,33 +93,13 @@ void logger_take_control()
 {
     std::lock_guard lock(g_event_log_mtx);
     const auto data = api_call_log_data::get_instance();
-    std::ifstream data_file(get_data_filename(), std::ios::binary);
-    api_call_log_fields stored = data->fields;
-    if (data_file.read(reinterpret_cast<char*>(&stored), sizeof(stored)))
-    {
-        stored.call_log_directory[sizeof(stored.call_log_directory) - 1] = '\0';
-        stored.event_log_directory[sizeof(stored.event_log_directory) - 1] = '\0';
-        data->fields = stored;
-    }
-
-    constexpr auto append = std::ios::binary | std::ios::app;
-    reopen(*cur_func_call_log_file, data->get_cur_func_call_file_path(), append);
-    reopen(*cur_event_log_file, data->get_cur_event_log_file_path(), append);
-
+    data_file_read(data->fields);
+    cur_func_call_log_file->open(data->get_cur_func_call_file_path(), false);
+    cur_event_log_file->open(data->get_cur_event_log_file_path(), false);
     if (is_logger_file_open())
-    {
-        for (const std::string& line : *g_prev_pushed_log)
-            logger_write_line(line);
-        logger_write_flush();
-        g_prev_pushed_log->clear();
-    }
+        cur_func_call_log_file->write_pending();
     if (is_event_logger_file_open())
-    {
-        for (const std::string& line : *g_prev_pushed_event_log)
-            event_logger_write_line(line);
-        event_logger_write_flush();
-        g_prev_pushed_event_log->clear();
-    }
+        cur_event_log_file->write_pending();
 }
 
 void logger_release_control()
@@ -144,19 +110,22 @@ void logger_release_control()
     data_file_write();
 }
 
+void logger_rest()
+{
+    cur_func_call_log_file->rest();
+    const std::unique_lock lock(g_event_log_mtx, std::try_to_lock);
+    if (lock)
+        cur_event_log_file->rest();
+}
+
 void logger_internal_write_line_before_taking_control(std::string line)
 {
-    g_prev_pushed_log->push_back(std::move(line));
+    cur_func_call_log_file->keep(std::move(line));
 }
 
-void logger_write_line(const char* text)
+void logger_write_line(std::string_view text)
 {
-    write_call_record(text);
-}
-
-void logger_write_line(const std::string& text)
-{
-    write_call_record(text);
+    cur_func_call_log_file->write(text);
 }
 
 void logger_write_flush()
@@ -164,14 +133,9 @@ void logger_write_flush()
     cur_func_call_log_file->flush();
 }
 
-void event_logger_write_line(const char* text)
+void event_logger_write_line(std::string_view text)
 {
-    write_event_record(text);
-}
-
-void event_logger_write_line(const std::string& text)
-{
-    write_event_record(text);
+    cur_event_log_file->write(text);
 }
 
 void event_logger_write_flush()
@@ -181,7 +145,7 @@ void event_logger_write_flush()
 
 void event_logger_write_line_before_taking_control(std::string line)
 {
-    g_prev_pushed_event_log->push_back(std::move(line));
+    cur_event_log_file->keep(std::move(line));
 }
 
 bool is_logger_file_open()
@@ -203,7 +167,7 @@ void logger_write_entry(std::initializer_list<std::string_view> records)
         return;
     }
     for (const std::string_view record : records)
-        write_call_record(record);
+        logger_write_line(record);
     logger_write_flush();
 }
 
@@ -216,10 +180,10 @@ void logger_count_call()
     ++data->fields.file_number;
     // Before the logger has control there is no directory to open a file in: the number alone goes on.
     if (is_logger_file_open())
-        reopen(*cur_func_call_log_file, data->get_cur_func_call_file_path(), std::ios::binary | std::ios::out);
+        cur_func_call_log_file->open(data->get_cur_func_call_file_path(), true);
     std::lock_guard lock(g_event_log_mtx);
     if (is_event_logger_file_open())
-        reopen(*cur_event_log_file, data->get_cur_event_log_file_path(), std::ios::binary | std::ios::out);
+        cur_event_log_file->open(data->get_cur_event_log_file_path(), true);
 }
 
 std::string get_data_filename()
@@ -231,8 +195,9 @@ std::string get_data_filename()
 void data_file_write()
 {
     const auto data = api_call_log_data::get_instance();
-    std::ofstream file(get_data_filename(), std::ios::binary);
-    file.write(reinterpret_cast<const char*>(&data->fields), sizeof(data->fields));
-    file.flush();
+    const std::string_view bytes(reinterpret_cast<const char*>(&data->fields), sizeof(data->fields));
+    own_file file;
+    data_file_is_written =
+        file.open(get_data_filename(), O_WRONLY | O_CREAT | O_TRUNC) && file.write(bytes) == bytes.size();
 }
 } // namespace qorin_api

@@ -1,6 +1,7 @@
 #ifndef API_API_CALL_LOGGER_H
 #define API_API_CALL_LOGGER_H
 
+#include <initializer_list>
 #include <mutex>
 #include <string>
 #include <string_view>
@@ -24,17 +25,19 @@ void logger_initialize();
 /// Opens both files and writes out what is pending.
 void logger_take_control();
 
+/// Closes the files of open logs until the next line, for a library that may be leaving. Under the call lock; an event
+/// log that another thread holds stays as it is.
+void logger_rest();
+
 /// Adds a line to the pending call log.
 void logger_internal_write_line_before_taking_control(std::string line);
 
 /// Writes one record to the call log. Under the call lock.
-void logger_write_line(const char* text);
-void logger_write_line(const std::string& text);
+void logger_write_line(std::string_view text);
 void logger_write_flush();
 
 /// Writes one record to the event log. Under g_event_log_mtx.
-void event_logger_write_line(const char* text);
-void event_logger_write_line(const std::string& text);
+void event_logger_write_line(std::string_view text);
 void event_logger_write_flush();
 
 /// Adds a line to the pending event log. Under g_event_log_mtx.
@@ -53,6 +56,8 @@ void logger_write_entry(std::initializer_list<std::string_view> records);
 void logger_count_call();
 
 [[nodiscard]] std::string get_data_filename();
+
+/// What could not be written is not read either: the logs lie where this process said.
 void data_file_write();
 } // namespace qorin_api
 

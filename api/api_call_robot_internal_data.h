@@ -42,7 +42,7 @@ class api_call_robot_internal_data
 {
 public:
     /// Made on first use, by any thread. Not destroyed when the process ends, for threads that still ask then; the
-    /// layer above has destroy_all() called.
+    /// layer above has close_all() called.
     static std::shared_ptr<api_call_robot_internal_data> get_instance();
 
     api_call_robot_internal_data() = default;
@@ -70,8 +70,31 @@ public:
     /// Erases all records, in the order of their ids.
     void destroy_all();
 
+    /// Closes all modules, in the order of the ids, and leaves the records: getters of other threads go on. From here
+    /// on no computation gets a module. Those under way are waited for; if they take too long, the modules stay open.
+    void close_all();
+
 private:
     std::map<unsigned int, _api_robot_data> robots_;
+};
+
+/// The kinematics of a robot for one computation, which the closing of modules at the end of the process waits for.
+class kinematics_use
+{
+public:
+    explicit kinematics_use(unsigned int robot_id);
+    ~kinematics_use();
+    kinematics_use(const kinematics_use&) = delete;
+    kinematics_use& operator=(const kinematics_use&) = delete;
+
+    /// False when the robot has no record or its module is closed: for computations it does not exist.
+    explicit operator bool() const { return kinematics_ != nullptr; }
+
+    savrent::ctrl::algorithm::robot_kinematics& operator*() const { return *kinematics_; }
+    savrent::ctrl::algorithm::robot_kinematics* operator->() const { return kinematics_; }
+
+private:
+    savrent::ctrl::algorithm::robot_kinematics* kinematics_ = nullptr;
 };
 } // namespace qorin_api
 

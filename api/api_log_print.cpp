@@ -34,11 +34,11 @@ const char* format_message(const char* format, std::va_list arguments)
 
 std::string event_line(QORIN_LOG_TYPE type, const char* message)
 {
-    static savrent::cc::immortal type_texts(savrent::cc::log_type_texts());
+    static savrent::cc::immortal g_type_texts(savrent::cc::log_type_texts());
     std::string line;
     savrent::cc::os_util::get_current_time_string(line);
     line += ": ";
-    line += (*type_texts)[type];
+    line += (*g_type_texts)[type];
     line += '[';
     line += savrent::cc::os_util::this_thread_id_string();
     line += "] ";

@@ -192,15 +192,15 @@ const catalogue_map& catalogue()
  */
 const char* get_unknown_desc(unsigned int code)
 {
-    static std::array<std::atomic<char>, 32> text = {};
+    static std::array<std::atomic<char>, 32> g_unknown_desc = {};
     static_assert(sizeof(std::atomic<char>) == 1);
 
     char fresh[32];
     const int length = is_internal(code) ? std::snprintf(fresh, sizeof(fresh), "Unknown Error Code : %06u", code)
                                          : std::snprintf(fresh, sizeof(fresh), "Unknown Error Code : ");
     for (int i = 0; i <= length; ++i)
-        text[static_cast<std::size_t>(i)].store(fresh[i], std::memory_order_relaxed);
-    return is_internal(code) ? reinterpret_cast<const char*>(text.data()) : nullptr;
+        g_unknown_desc[static_cast<std::size_t>(i)].store(fresh[i], std::memory_order_relaxed);
+    return is_internal(code) ? reinterpret_cast<const char*>(g_unknown_desc.data()) : nullptr;
 }
 
 /// The name and the description of a code come by the same steps.

@@ -55,8 +55,11 @@ QORIN_API_RESULT qorin_robot_kinematics_dh_parameter_get(unsigned int robot_id, 
                                                          double* parameter_1, double* parameter_2, double* parameter_3,
                                                          double* parameter_4)
 {
-    return read_created(robot_id, [&](_api_robot_data& robot)
-                        { robot.kinematics->get_dh_parameter(parameter_1, parameter_2, parameter_3, parameter_4); });
+    const qorin_api::kinematics_use kinematics(robot_id);
+    if (!kinematics)
+        return QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID;
+    return read_created(robot_id, [&](_api_robot_data&)
+                        { kinematics->get_dh_parameter(parameter_1, parameter_2, parameter_3, parameter_4); });
 }
 
 QORIN_API_RESULT qorin_robot_ext_move_switch_get(unsigned int robot_id, QORIN_SWITCH* ext_move)

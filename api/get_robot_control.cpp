@@ -2,23 +2,24 @@
 
 #include <cstring>
 
-#include "api/robot_read.h"
+#include "api/frame_read.h"
 
 namespace
 {
 using protocol::joint_data_t;
 using protocol::joint_module_data_t;
 using protocol::robot_data_t;
-using qorin_api::element_of;
 using qorin_api::read_drive;
 using qorin_api::read_joint;
+using qorin_api::read_joint_element;
 using qorin_api::read_robot;
-using qorin_api::read_robot_with_joint;
 
-/// Revolutions per minute of a value that counts degrees per second.
-double rpm(double degrees_per_second)
+/// Turns what a getter has answered from degrees per second to revolutions per minute.
+QORIN_API_RESULT in_rpm(QORIN_API_RESULT result, double* value)
 {
-    return degrees_per_second / 6.0;
+    if (result == QORIN_API_RESULT_OK)
+        *value /= 6.0;
+    return result;
 }
 } // namespace
 
@@ -198,30 +199,24 @@ QORIN_API_RESULT qorin_robot_joint_torque_actual_get(unsigned int robot_id, unsi
 
 QORIN_API_RESULT qorin_robot_joint_target_velocity_get(unsigned int robot_id, unsigned int joint, double* velocity)
 {
-    return read_robot_with_joint(robot_id, joint, &robot_data_t::joint_target_velocity, velocity);
+    return read_joint_element(robot_id, joint, &robot_data_t::joint_target_velocity, velocity);
 }
 
 QORIN_API_RESULT qorin_robot_joint_target_velocity_rpm_get(unsigned int robot_id, unsigned int joint, double* velocity)
 {
-    return read_robot_with_joint(robot_id, joint,
-                                 [&](const robot_data_t& robot)
-                                 { *velocity = rpm(element_of(robot, &robot_data_t::joint_target_velocity, joint)); });
+    return in_rpm(qorin_robot_joint_target_velocity_get(robot_id, joint, velocity), velocity);
 }
 
 QORIN_API_RESULT qorin_robot_joint_target_acceleration_get(unsigned int robot_id, unsigned int joint,
                                                            double* acceleration)
 {
-    return read_robot_with_joint(robot_id, joint, &robot_data_t::joint_target_acceleration, acceleration);
+    return read_joint_element(robot_id, joint, &robot_data_t::joint_target_acceleration, acceleration);
 }
 
 QORIN_API_RESULT qorin_robot_joint_target_acceleration_rpm_get(unsigned int robot_id, unsigned int joint,
                                                                double* acceleration)
 {
-    return read_robot_with_joint(robot_id, joint,
-                                 [&](const robot_data_t& robot) {
-                                     *acceleration =
-                                         rpm(element_of(robot, &robot_data_t::joint_target_acceleration, joint));
-                                 });
+    return in_rpm(qorin_robot_joint_target_acceleration_get(robot_id, joint, acceleration), acceleration);
 }
 
 QORIN_API_RESULT qorin_robot_joint_temperature_get(unsigned int robot_id, unsigned int joint, double* temperature)
@@ -276,12 +271,7 @@ QORIN_API_RESULT qorin_robot_spec_tcp_acc_max_get(unsigned int robot_id, double*
 QORIN_API_RESULT qorin_robot_spec_joint_angle_get(unsigned int robot_id, unsigned int joint, double* angle_1,
                                                   double* angle_2)
 {
-    return read_joint(robot_id, joint,
-                      [&](const joint_data_t& record)
-                      {
-                          *angle_1 = record.spec_angle[1];
-                          *angle_2 = record.spec_angle[0];
-                      });
+    return read_joint(robot_id, joint, &joint_data_t::spec_angle, angle_2, angle_1);
 }
 
 QORIN_API_RESULT qorin_robot_spec_joint_speed_max_get(unsigned int robot_id, unsigned int joint, double* speed_max)
@@ -297,6 +287,6 @@ QORIN_API_RESULT qorin_robot_spec_joint_acc_max_get(unsigned int robot_id, unsig
 const char* qorin_robot_joint_sw_version_get(unsigned int robot_id, unsigned int joint)
 {
     const char* text = nullptr;
-    read_drive(robot_id, joint, [&](const joint_module_data_t& drive) { text = drive.sw_version; });
+    (void)read_drive(robot_id, joint, [&](const joint_module_data_t& drive) { text = drive.sw_version; });
     return text;
 }

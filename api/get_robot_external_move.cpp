@@ -2,13 +2,13 @@
 
 #include <cmath>
 
-#include "api/robot_read.h"
+#include "api/frame_read.h"
 
 namespace
 {
 using protocol::robot_data_t;
 using protocol::shared_data_t;
-using qorin_api::read_frame;
+using qorin_api::frame_of;
 using qorin_api::read_frame_of_robot;
 using qorin_api::read_robot;
 } // namespace
@@ -20,18 +20,13 @@ QORIN_API_RESULT qorin_robot_ext_profiler_switch_get(unsigned int robot_id, QORI
 
 QORIN_API_RESULT qorin_robot_ext_profiler_period_get(unsigned int robot_id, unsigned int* period)
 {
-    return read_robot(robot_id,
-                      [&](const robot_data_t& robot)
-                      {
-                          return read_frame(
-                              [&](const shared_data_t& frame)
-                              {
-                                  static const double cycle_ms = frame.control_cycle_us / 1000.0;
-                                  // llround: what is too large for an integer comes out as some number.
-                                  *period =
-                                      static_cast<unsigned int>(std::llround(robot.ext_profiler_period * cycle_ms));
-                              });
-                      });
+    const auto read = [&](const robot_data_t& robot)
+    {
+        static const double cycle_ms = frame_of(robot, robot_id).control_cycle_us / 1000.0;
+        // llround: what is too large for an integer comes out as some number.
+        *period = static_cast<unsigned int>(std::llround(robot.ext_profiler_period * cycle_ms));
+    };
+    return read_robot(robot_id, read);
 }
 
 QORIN_API_RESULT qorin_robot_ext_profiler_buffer_size_get(unsigned int robot_id, unsigned int* size)
@@ -51,6 +46,5 @@ QORIN_API_RESULT qorin_robot_conveyor_mode_get(unsigned int robot_id, QORIN_CONV
 
 QORIN_API_RESULT qorin_robot_conveyor_encoder_switch_get(unsigned int robot_id, QORIN_SWITCH* encoder_switch)
 {
-    return read_frame_of_robot(robot_id, [&](const shared_data_t& frame)
-                               { *encoder_switch = static_cast<QORIN_SWITCH>(frame.conveyor_encoder_switch); });
+    return read_frame_of_robot(robot_id, &shared_data_t::conveyor_encoder_switch, encoder_switch);
 }

@@ -1,17 +1,25 @@
 #include "qorin/robot_force_status.h"
 
-#include "api/robot_read.h"
+#include "api/frame_read.h"
 
 namespace
 {
+using protocol::ext_ft_sensor_data_t;
 using protocol::ft_sensor_data_t;
 using protocol::record_at;
 using protocol::robot_data_t;
 using protocol::shared_data_t;
+using qorin_api::frame_of;
 using qorin_api::hand_out;
-using qorin_api::read_frame;
 using qorin_api::read_frame_of_robot;
 using qorin_api::read_robot;
+
+template <class Field, class... Outputs>
+QORIN_API_RESULT read_sensor(unsigned int robot_id, Field ft_sensor_data_t::*field, Outputs*... outputs)
+{
+    return read_frame_of_robot(robot_id, [&](const shared_data_t& frame)
+                               { hand_out(record_at<ft_sensor_data_t>(frame, robot_id), field, outputs...); });
+}
 } // namespace
 
 QORIN_API_RESULT qorin_robot_force_ctrl_switch_get(unsigned int robot_id, QORIN_SWITCH* control_switch)
@@ -108,34 +116,27 @@ QORIN_API_RESULT qorin_robot_force_ctrl_actual_torq_get(unsigned int robot_id, d
 
 QORIN_API_RESULT qorin_robot_force_torq_sensor_switch_get(unsigned int robot_id, QORIN_SWITCH* sensor_switch)
 {
-    return read_robot(robot_id,
-                      [&](const protocol::robot_data_t&)
-                      {
-                          return read_frame(
-                              [&](const shared_data_t& frame) {
-                                  hand_out(record_at<ft_sensor_data_t>(frame, robot_id),
-                                           &ft_sensor_data_t::sensor_switch, sensor_switch);
-                              });
-                      });
+    const auto read = [&](const robot_data_t& robot)
+    {
+        const auto& sensor = record_at<ft_sensor_data_t>(frame_of(robot, robot_id), robot_id);
+        hand_out(sensor, &ft_sensor_data_t::sensor_switch, sensor_switch);
+    };
+    return read_robot(robot_id, read);
 }
 
 QORIN_API_RESULT qorin_robot_force_torq_sensor_actual_force_get(unsigned int robot_id, double* x, double* y, double* z)
 {
-    return read_frame_of_robot(
-        robot_id, [&](const shared_data_t& frame)
-        { hand_out(record_at<ft_sensor_data_t>(frame, robot_id), &ft_sensor_data_t::actual_force, x, y, z); });
+    return read_sensor(robot_id, &ft_sensor_data_t::actual_force, x, y, z);
 }
 
 QORIN_API_RESULT qorin_robot_force_torq_sensor_actual_torq_get(unsigned int robot_id, double* x, double* y, double* z)
 {
-    return read_frame_of_robot(
-        robot_id, [&](const shared_data_t& frame)
-        { hand_out(record_at<ft_sensor_data_t>(frame, robot_id), &ft_sensor_data_t::actual_torque, x, y, z); });
+    return read_sensor(robot_id, &ft_sensor_data_t::actual_torque, x, y, z);
 }
 
 QORIN_API_RESULT qorin_robot_ext_force_torq_sensor_switch_get(unsigned int robot_id, QORIN_SWITCH* sensor_switch)
 {
-    return read_frame_of_robot(
-        robot_id, [&](const shared_data_t& frame)
-        { *sensor_switch = static_cast<QORIN_SWITCH>(frame.ext_ft_sensors[robot_id].sensor_switch); });
+    const auto read = [&](const shared_data_t& frame)
+    { hand_out(frame.ext_ft_sensors[robot_id], &ext_ft_sensor_data_t::sensor_switch, sensor_switch); };
+    return read_frame_of_robot(robot_id, read);
 }

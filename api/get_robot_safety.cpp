@@ -3,20 +3,21 @@
 #include <algorithm>
 #include <cstring>
 
-#include "api/robot_read.h"
+#include "api/frame_read.h"
 
 namespace
 {
 using protocol::joint_data_t;
 using protocol::robot_data_t;
+using protocol::safety_plane_block_t;
+using protocol::safety_shape_block_t;
 using protocol::shared_data_t;
+using qorin_api::hand_out;
 using qorin_api::read_frame_of_robot;
 using qorin_api::read_joint;
+using qorin_api::read_joint_element;
 using qorin_api::read_robot;
 using qorin_api::read_robot_with_joint;
-
-constexpr std::size_t joints_max = 6;
-constexpr unsigned int planes = 10;
 } // namespace
 
 QORIN_API_RESULT qorin_robot_state_safety_get(unsigned int robot_id, QORIN_ROBOT_SAFETY_STATE* state)
@@ -33,8 +34,7 @@ QORIN_API_RESULT qorin_robot_safety_crc32_get(unsigned int robot_id, unsigned in
 
 QORIN_API_RESULT qorin_robot_safety_limit_switch_get(unsigned int robot_id, QORIN_SWITCH* limit_switch)
 {
-    return read_frame_of_robot(robot_id, [&](const shared_data_t& frame)
-                               { *limit_switch = static_cast<QORIN_SWITCH>(frame.safety_limit_switch[robot_id]); });
+    return read_frame_of_robot(robot_id, &shared_data_t::safety_limit_switch, robot_id, limit_switch);
 }
 
 QORIN_API_RESULT qorin_robot_safety_limit_tcp_speed_max_get(unsigned int robot_id, double* speed_max)
@@ -50,12 +50,7 @@ QORIN_API_RESULT qorin_robot_safety_limit_tcp_acc_max_get(unsigned int robot_id,
 QORIN_API_RESULT qorin_robot_safety_limit_joint_angle_get(unsigned int robot_id, unsigned int joint, double* angle_1,
                                                           double* angle_2)
 {
-    return read_joint(robot_id, joint,
-                      [&](const joint_data_t& record)
-                      {
-                          *angle_1 = record.safety_angle[1];
-                          *angle_2 = record.safety_angle[0];
-                      });
+    return read_joint(robot_id, joint, &joint_data_t::safety_angle, angle_2, angle_1);
 }
 
 QORIN_API_RESULT qorin_robot_safety_limit_joint_speed_max_get(unsigned int robot_id, unsigned int joint,
@@ -72,12 +67,7 @@ QORIN_API_RESULT qorin_robot_safety_limit_joint_acc_max_get(unsigned int robot_i
 QORIN_API_RESULT qorin_robot_safety_limit_velocity_in_reduced_mode_get(unsigned int robot_id, double* velocity_1,
                                                                        double* velocity_2)
 {
-    return read_robot(robot_id,
-                      [&](const robot_data_t& robot)
-                      {
-                          *velocity_1 = robot.velocity_in_reduced_mode[1];
-                          *velocity_2 = robot.velocity_in_reduced_mode[0];
-                      });
+    return read_robot(robot_id, &robot_data_t::velocity_in_reduced_mode, velocity_2, velocity_1);
 }
 
 QORIN_API_RESULT qorin_robot_safety_limit_collision_detection_tcp_force_in_reduced_mode_get(unsigned int robot_id,
@@ -90,42 +80,41 @@ QORIN_API_RESULT qorin_robot_safety_limit_collision_detection_torque_in_reduced_
                                                                                          unsigned int count,
                                                                                          double* torque)
 {
-    return read_robot_with_joint(robot_id, count,
-                                 [&](const robot_data_t& robot)
-                                 {
-                                     // The frame tells the number of joints, and it may tell more than it holds.
-                                     const std::size_t torques = std::min<std::size_t>(count, joints_max);
-                                     std::memcpy(torque, robot.collision_torque_in_reduced_mode,
-                                                 torques * sizeof(double));
-                                 });
+    const auto read = [&](const robot_data_t& robot)
+    {
+        // The frame tells the number of joints, and it may tell more than it holds.
+        const std::size_t torques = std::min(count, protocol::joint_limit);
+        std::memcpy(torque, robot.collision_torque_in_reduced_mode, torques * sizeof(double));
+    };
+    return read_robot_with_joint(robot_id, count, read);
 }
 
 QORIN_API_RESULT qorin_robot_safety_limit_tcp_bounding_shape_switch_get(unsigned int robot_id,
                                                                         QORIN_SWITCH* shape_switch)
 {
-    return read_frame_of_robot(
-        robot_id, [&](const shared_data_t& frame)
-        { *shape_switch = static_cast<QORIN_SWITCH>(frame.safety_shapes[robot_id].tcp_bounding_shape_switch); });
+    const auto read = [&](const shared_data_t& frame)
+    { hand_out(frame.safety_shapes[robot_id], &safety_shape_block_t::tcp_bounding_shape_switch, shape_switch); };
+    return read_frame_of_robot(robot_id, read);
 }
 
 QORIN_API_RESULT qorin_robot_safety_limit_plane_norm_distance_get(unsigned int robot_id, unsigned int plane,
                                                                   double* norm_x, double* norm_y, double* norm_z,
                                                                   double* distance)
 {
-    return read_frame_of_robot(robot_id,
-                               [&](const shared_data_t& frame)
-                               {
-                                   if (plane >= planes)
-                                       return QORIN_API_RESULT_ERROR_ROBOT_PARAM_OUT_OF_RANGE;
-                                   const protocol::safety_plane_block_t& block = frame.safety_planes[robot_id];
-                                   if (block.plane_switch[plane] == QORIN_SWITCH_OFF)
-                                       return QORIN_API_RESULT_ERROR_ROBOT_INVAILD_WORK_SPACE_ID;
-                                   *norm_x = block.plane[plane][0];
-                                   *norm_y = block.plane[plane][1];
-                                   *norm_z = block.plane[plane][2];
-                                   *distance = -block.plane[plane][3];
-                                   return QORIN_API_RESULT_OK;
-                               });
+    const auto read = [&](const shared_data_t& frame)
+    {
+        if (plane >= protocol::safety_plane_limit)
+            return QORIN_API_RESULT_ERROR_ROBOT_PARAM_OUT_OF_RANGE;
+        const safety_plane_block_t& block = frame.safety_planes[robot_id];
+        if (block.plane_switch[plane] == QORIN_SWITCH_OFF)
+            return QORIN_API_RESULT_ERROR_ROBOT_INVAILD_WORK_SPACE_ID;
+        *norm_x = block.plane[plane][0];
+        *norm_y = block.plane[plane][1];
+        *norm_z = block.plane[plane][2];
+        *distance = -block.plane[plane][3];
+        return QORIN_API_RESULT_OK;
+    };
+    return read_frame_of_robot(robot_id, read);
 }
 
 QORIN_API_RESULT qorin_robot_safety_limit_plane_norm_origin_get(unsigned int /*robot_id*/, unsigned int /*plane*/,
@@ -155,7 +144,7 @@ QORIN_API_RESULT qorin_robot_collision_detection_threshold_tcp_force_get(unsigne
 QORIN_API_RESULT qorin_robot_collision_detection_threshold_joint_torque_get(unsigned int robot_id, unsigned int joint,
                                                                             double* torque)
 {
-    return read_robot_with_joint(robot_id, joint, &robot_data_t::collision_threshold_joint_torque, torque);
+    return read_joint_element(robot_id, joint, &robot_data_t::collision_threshold_joint_torque, torque);
 }
 
 QORIN_API_RESULT qorin_robot_collision_mitigation_switch_get(unsigned int robot_id, QORIN_SWITCH* mitigation_switch)

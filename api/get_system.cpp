@@ -1,5 +1,6 @@
 #include "qorin/system.h"
 
+#include <atomic>
 #include <cstring>
 #include <string>
 
@@ -10,13 +11,10 @@
 
 namespace
 {
-std::string control_sw_version()
+std::string control_sw_version(const protocol::shared_data_t& frame)
 {
-    const protocol::shared_data_t* frame = qorin_internal_get_shared_data();
-    if (frame == nullptr)
-        return {};
-    const char* text = frame->control_sw_version;
-    return {text, strnlen(text, sizeof(frame->control_sw_version))};
+    const char* text = frame.control_sw_version;
+    return {text, strnlen(text, sizeof(frame.control_sw_version))};
 }
 } // namespace
 
@@ -25,10 +23,15 @@ const char* qorin_system_api_version_get(void)
     return savrent_static::cc::sw_ver::get();
 }
 
-// Taken on the first call and never again, even if that call found the field empty.
+// Taken from the first frame that is there to ask and never again, even if its field was empty.
 const char* qorin_system_control_sw_version_get(void)
 {
-    static savrent::cc::immortal<std::string> g_ctrl_sw_ver(control_sw_version());
+    static std::atomic<bool> is_init = false;
+    const protocol::shared_data_t* frame = qorin_internal_get_shared_data();
+    if (frame == nullptr && !is_init.load(std::memory_order_acquire))
+        return nullptr;
+    static savrent::cc::immortal<std::string> g_ctrl_sw_ver(control_sw_version(*frame));
+    is_init.store(true, std::memory_order_release);
     return g_ctrl_sw_ver->c_str();
 }
 

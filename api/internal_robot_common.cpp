@@ -3,14 +3,10 @@
 #include "api/api_call_robot_internal_data.h"
 #include "api/internal_shared_data.h"
 
-namespace
-{
-constexpr unsigned int robot_limit = 2; // robots of a frame, whatever count it tells
-} // namespace
-
 QORIN_API_RESULT qorin_internal_robot_common_check(unsigned int robot_id, const protocol::robot_data_t** robot_data)
 {
-    if (robot_id >= robot_limit || qorin_api::api_call_robot_internal_data::get_instance()->get(robot_id) == nullptr)
+    if (robot_id >= protocol::robot_limit ||
+        qorin_api::api_call_robot_internal_data::get_instance()->get(robot_id) == nullptr)
         return QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID;
     if (robot_data == nullptr)
         return QORIN_API_RESULT_OK;

@@ -9,6 +9,7 @@
 #include "qorin/enumerations.h"
 #include "qorin/event_codes.h"
 #include "qorin/result.h"
+#include "savrent/cc/immortal.h"
 
 namespace savrent::cc
 {
@@ -591,19 +592,19 @@ struct identity_hash
 };
 using enum_names = std::unordered_map<unsigned int, std::string, identity_hash>;
 
-std::atomic<bool> b_init = false;
 /// Published when it is complete and never changed or freed afterwards, so that lookups need no lock.
 std::atomic<const enum_names*> g_enum_to_string_map = nullptr;
 } // namespace
 
 void qorin_init_enum_to_string()
 {
+    static std::atomic<bool> b_init = false;
     if (b_init.exchange(true, std::memory_order_relaxed))
         return;
-    auto* names = new enum_names(enum_rows.size());
+    static savrent::cc::immortal<enum_names> names(enum_rows.size());
     for (const enum_row& row : enum_rows)
         names->emplace(row.value, row.name);
-    g_enum_to_string_map.store(names, std::memory_order_release);
+    g_enum_to_string_map.store(&*names, std::memory_order_release);
 }
 
 const char* get_string_from_enum_internal(unsigned int value)

@@ -10,7 +10,7 @@
 #include <sstream>
 #include <string>
 
-#include "api/robot_read.h"
+#include "api/frame_read.h"
 #include "qorin/enumerations.h"
 #include "savrent/cc/math/custum_util.h"
 #include "savrent/cc/os_util.h"
@@ -27,7 +27,6 @@ using savrent::cc::math::quaternion;
 using savrent::cc::math::vector3;
 using savrent::cc::math_savrent::custum_util;
 
-constexpr std::size_t pose_fields = 6;
 constexpr int division_min = 2;
 constexpr int division_max = 180;
 constexpr std::size_t speed_samples = 7; // odd, so that one stands in the middle
@@ -43,7 +42,7 @@ matrix4 pose_of(const std::string& line)
 {
     std::istringstream fields(line);
     std::string field;
-    std::array<double, pose_fields> numbers = {};
+    std::array<double, protocol::pose_size> numbers = {};
     for (double& number : numbers)
     {
         field.clear(); // what is missing counts as empty

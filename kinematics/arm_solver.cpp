@@ -30,9 +30,7 @@ joint_array joint_angles(const joint_array& rotations, const dh_table& table, co
 {
     joint_array joints;
     for (std::size_t i = 0; i < joint_count; ++i)
-    {
         joints[i] = nearest_turn(degrees(rotations[i]) - table.theta[i], reference[i]);
-    }
     return joints;
 }
 
@@ -50,9 +48,7 @@ double squared_distance(const joint_array& a, const joint_array& b)
 {
     double sum = 0.0;
     for (std::size_t i = 0; i < joint_count; ++i)
-    {
         sum += (a[i] - b[i]) * (a[i] - b[i]);
-    }
     return sum;
 }
 } // namespace
@@ -60,9 +56,7 @@ double squared_distance(const joint_array& a, const joint_array& b)
 arm_solver::arm_solver(const dh_table& table) : table_(table), closed_form_(as_spherical_wrist_arm(table))
 {
     for (std::size_t i = 0; i < joint_count; ++i)
-    {
         twists_[i] = direction_of(radians(table.alpha[i]));
-    }
 }
 
 flange_pose arm_solver::forward(const joint_array& joints) const
@@ -78,13 +72,28 @@ flange_pose arm_solver::forward(const joint_array& joints) const
     return {{position.x(), position.y(), position.z()}, orientation_of(rotation)};
 }
 
+link_points arm_solver::links(const joint_array& joints) const
+{
+    link_points points;
+    Eigen::Matrix3d rotation = Eigen::Matrix3d::Identity();
+    Eigen::Vector3d position = Eigen::Vector3d::Zero();
+    for (std::size_t i = 0; i < joint_count; ++i)
+    {
+        const direction joint = direction_of(radians(joints[i] + table_.theta[i]));
+        position += rotation.col(2) * table_.d[i];
+        Eigen::Vector3d::Map(points[2 * i].data()) = position;
+        position += rotation * Eigen::Vector3d(table_.a[i] * joint.c, table_.a[i] * joint.s, 0.0);
+        Eigen::Vector3d::Map(points[2 * i + 1].data()) = position;
+        rotation = rotation * rotation_zx(joint, twists_[i]);
+    }
+    return points;
+}
+
 solution_set arm_solver::inverse_all_solutions(const flange_pose& target, const joint_array& reference) const
 {
     solution_set solutions;
     if (!closed_form_ || !is_usable(target, reference))
-    {
         return solutions;
-    }
     const spherical_wrist_arm& arm = *closed_form_;
     const wrist_target goal = without_flange(target, table_, twists_[5]);
     const auto kept = [&](std::size_t joint) { return radians(reference[joint] + table_.theta[joint]); };
@@ -94,9 +103,7 @@ solution_set arm_solver::inverse_all_solutions(const flange_pose& target, const 
         const auto shoulder = solve_shoulder(arm, goal.centre, rear, kept(0));
         const auto triangle = shoulder ? solve_arm_triangle(arm, *shoulder) : std::nullopt;
         if (!triangle)
-        {
             continue;
-        }
         for (const bool below : {false, true})
         {
             const elbow_branch elbow = solve_elbow(arm, *triangle, rear, below, kept(1));

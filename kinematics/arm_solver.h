@@ -20,6 +20,10 @@ struct flange_pose
     std::array<double, 3> orientation{}; ///< rx, ry, rz
 };
 
+/// Where the links of an arm bend, from the base on: for each row of the table the point behind its d, then the one
+/// behind its a, which is the origin of the row's frame. Millimetres, seen from the base.
+using link_points = std::array<std::array<double, 3>, 2 * joint_count>;
+
 /**
  * Branch of the inverse. The definitions follow the links, so that they hold for every table:
  * - front: the wrist centre lies on the side of joint 1's axis to which the x axis of link 1 points; rear: beyond it.
@@ -74,6 +78,7 @@ public:
     [[nodiscard]] bool has_closed_form() const { return closed_form_.has_value(); }
 
     [[nodiscard]] flange_pose forward(const joint_array& joints) const;
+    [[nodiscard]] link_points links(const joint_array& joints) const;
 
     /**
      * The solution with the least sum of squared joint differences from the reference, each joint within +-180 degrees

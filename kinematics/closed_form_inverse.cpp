@@ -23,9 +23,7 @@ std::optional<shoulder_branch> solve_shoulder(const spherical_wrist_arm& arm, co
     const double from_axis = std::hypot(centre.x(), centre.y());
     const double beside = std::abs(arm.lateral);
     if (!(from_axis >= beside - arm.length_tolerance))
-    {
         return std::nullopt;
-    }
     const double along = root_of_product(from_axis - beside, from_axis + beside) * (rear ? -1.0 : 1.0);
     shoulder_branch branch;
     branch.x = along - arm.shoulder_forward;
@@ -42,9 +40,7 @@ std::optional<arm_triangle> solve_arm_triangle(const spherical_wrist_arm& arm, c
     const double longest = arm.upper_arm + arm.forearm;
     const double shortest = std::abs(arm.upper_arm - arm.forearm);
     if (!(reach <= longest + arm.length_tolerance && reach >= shortest - arm.length_tolerance))
-    {
         return std::nullopt;
-    }
     // Half angles from factored differences: an arccosine would lose half the digits near a stretched or folded elbow.
     const double stretch_left = root_of_product(longest - reach, longest + reach);
     const double fold_left = root_of_product(reach - shortest, reach + shortest);

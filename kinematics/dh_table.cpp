@@ -9,9 +9,7 @@ double total_length(const dh_table& table)
 {
     double sum = 0.0;
     for (std::size_t i = 0; i < joint_count; ++i)
-    {
         sum += std::abs(table.a[i]) + std::abs(table.d[i]);
-    }
     return sum;
 }
 

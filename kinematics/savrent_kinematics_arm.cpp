@@ -1,4 +1,4 @@
-#include "kinematics/savrent_kinematics.h"
+#include "qorin/savrent_kinematics.h"
 
 #include <algorithm>
 #include <mutex>
@@ -58,9 +58,7 @@ flange_pose pose_from(const double* position, const double* orientation)
 char store_if_found(const std::optional<joint_array>& found, double* joints)
 {
     if (!found)
-    {
         return 0;
-    }
     std::ranges::copy(*found, joints);
     return 1;
 }
@@ -95,9 +93,7 @@ void savrent_kinematics_destroy(void** handle)
 void savrent_kinematics_set_model_name(void* handle, QORIN_ROBOT_MODEL model)
 {
     if (const arm_model* arm = find_arm_model(model))
-    {
         instance_of(handle)->use(arm->table);
-    }
 }
 
 void savrent_kinematics_forward(void* handle, const double* joints, double* position, double* orientation)
@@ -140,9 +136,7 @@ void savrent_kinematics_set_dh_parameter(void* handle, const double* parameter_1
     const dh_table table{joints_from(parameter_1), joints_from(parameter_2), joints_from(parameter_3),
                          joints_from(parameter_4)};
     if (describes_an_arm(table))
-    {
         instance_of(handle)->use(table);
-    }
 }
 
 void savrent_kinematics_get_dh_parameter(void* handle, double* parameter_1, double* parameter_2, double* parameter_3,

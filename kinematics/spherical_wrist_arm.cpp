@@ -37,9 +37,7 @@ std::optional<spherical_wrist_arm> as_spherical_wrist_arm(const dh_table& table)
         std::abs(a[3]) <= tolerance && std::abs(a[4]) <= tolerance && std::abs(d[4]) <= tolerance;
     if (!describes_an_arm(table) || !arm_in_a_plane || !wrist_axes_meet || !is_right_angle(alpha[3]) ||
         !is_right_angle(alpha[4]))
-    {
         return std::nullopt;
-    }
 
     const direction twist3 = direction_of(radians(alpha[2]));
     const double forearm_x = a[2];
@@ -60,9 +58,7 @@ std::optional<spherical_wrist_arm> as_spherical_wrist_arm(const dh_table& table)
     arm.alpha4_sign = sine_sign(alpha[3]);
     arm.alpha5_sign = sine_sign(alpha[4]);
     if (arm.upper_arm <= tolerance || arm.forearm <= tolerance)
-    {
         return std::nullopt;
-    }
     return arm;
 }
 } // namespace savrent::kinematics

@@ -8,8 +8,9 @@
 
 namespace savrent::cc::val_obj
 {
-/// An event as it stands on the event link. Group and subgroup are independent numbers.
-struct QORIN_WIRE_RECORD event_info
+/// An event as it stands on the event link, each field in its natural place. Group and subgroup are independent
+/// numbers.
+struct event_info
 {
     std::uint32_t group;                  ///< a QORIN_EVENT_GRP value
     std::uint32_t subgroup;               ///< a QORIN_EVENT_SUBGRP value

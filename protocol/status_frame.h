@@ -1,9 +1,11 @@
 #ifndef PROTOCOL_STATUS_FRAME_H
 #define PROTOCOL_STATUS_FRAME_H
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 
+#include "protocol/limits.h"
 #include "protocol/wire_record.h"
 
 /**
@@ -17,9 +19,10 @@ namespace protocol
 /// Safety planes of one robot.
 struct QORIN_WIRE_RECORD safety_plane_block_t
 {
-    std::uint32_t plane_switch[10]; ///< Per plane id 0 to 9: QORIN_SWITCH_OFF means that the id holds no plane.
-    double plane[10][4]; ///< Per plane id: normal x, normal y, normal z, constant term d of the plane equation. The
-                         ///< distance that the API reports is -d.
+    std::uint32_t
+        plane_switch[safety_plane_limit]; ///< Per plane id 0 to 9: QORIN_SWITCH_OFF means that the id holds no plane.
+    double plane[safety_plane_limit][4];  ///< Per plane id: normal x, normal y, normal z, constant term d of the plane
+                                          ///< equation. The distance that the API reports is -d.
     unsigned char reserved_1[8];
 };
 static_assert(offsetof(safety_plane_block_t, plane_switch) == 0);
@@ -63,8 +66,8 @@ struct QORIN_WIRE_RECORD io_module_data_t
     std::uint32_t analog_mode; ///< Bits 0 and 1: mode of analog output channels 0 and 1. Bits 2 and 3: mode of analog
                                ///< input channels 0 and 1. A set bit means QORIN_ANALOG_IO_MODE_CURRENT, a clear bit
                                ///< QORIN_ANALOG_IO_MODE_VOLTAGE.
-    double analog_input[2];    ///< Analog input channels 0 and 1.
-    double analog_output[2];   ///< Analog output channels 0 and 1.
+    double analog_input[io_analog_channels];  ///< Analog input channels 0 and 1.
+    double analog_output[io_analog_channels]; ///< Analog output channels 0 and 1.
     unsigned char reserved_3[8];
     double conveyor_encoder_rate_0; ///< Raw rate of conveyor encoder 0. Read from module 0 only.
     unsigned char reserved_4[8];
@@ -123,9 +126,9 @@ struct QORIN_WIRE_RECORD tool_module_data_t
     std::uint32_t digital_output; ///< Bit n is tool output channel n, channels 0 to 3.
     unsigned char reserved_2[12];
     std::uint32_t
-        analog_mode;        ///< Bits 2 and 3: mode of tool analog input channels 0 and 1, coded as in io_module_data_t.
-    double analog_input[2]; ///< Tool analog input channels 0 and 1.
-    double analog_output[2]; ///< Tool analog output channels 0 and 1.
+        analog_mode; ///< Bits 2 and 3: mode of tool analog input channels 0 and 1, coded as in io_module_data_t.
+    double analog_input[tool_analog_channels];  ///< Tool analog input channels 0 and 1.
+    double analog_output[tool_analog_channels]; ///< Tool analog output channels 0 and 1.
     unsigned char reserved_3[4];
     std::uint32_t power_voltage; ///< Tool supply voltage option: a QORIN_TOOL_IO_POWER_VOLTAGE_OPTION value.
     double power_current;        ///< Tool supply current.
@@ -300,52 +303,53 @@ struct QORIN_WIRE_RECORD robot_data_t
     unsigned char reserved_7[56];
     double tcp_payload[4];        ///< Payload: mass in kilograms, then centre of mass x, y, z.
     double installation_mount[2]; ///< The two mount angles given to qorin_rpc_robot_installation_mount_set, in order.
-    double tcp_from_flange[6];    ///< TCP relative to the flange: x, y, z, rx, ry, rz.
-    double tcp_pose_command[6];   ///< Commanded TCP pose: x, y, z, rx, ry, rz.
-    double tcp_pose_actual[6];    ///< Measured TCP pose, same order.
-    double tcp_pos_speed_command[3];     ///< Commanded TCP translation speed x, y, z.
-    double tcp_ort_speed_command[3];     ///< Commanded TCP rotation speed x, y, z.
-    double tcp_pos_speed_actual[3];      ///< Measured TCP translation speed x, y, z.
-    double tcp_ort_speed_actual[3];      ///< Measured TCP rotation speed x, y, z.
-    double flange_pose_command[6];       ///< Commanded flange pose, same order as the TCP pose.
-    double flange_pose_actual[6];        ///< Measured flange pose, same order.
-    double joint_target_velocity[6];     ///< Per joint: velocity target of velocity control, in degrees per second.
-    double joint_target_acceleration[6]; ///< Per joint: acceleration target of velocity control, in degrees per second
-                                         ///< squared.
+    double tcp_from_flange[pose_size];     ///< TCP relative to the flange: x, y, z, rx, ry, rz.
+    double tcp_pose_command[pose_size];    ///< Commanded TCP pose: x, y, z, rx, ry, rz.
+    double tcp_pose_actual[pose_size];     ///< Measured TCP pose, same order.
+    double tcp_pos_speed_command[3];       ///< Commanded TCP translation speed x, y, z.
+    double tcp_ort_speed_command[3];       ///< Commanded TCP rotation speed x, y, z.
+    double tcp_pos_speed_actual[3];        ///< Measured TCP translation speed x, y, z.
+    double tcp_ort_speed_actual[3];        ///< Measured TCP rotation speed x, y, z.
+    double flange_pose_command[pose_size]; ///< Commanded flange pose, same order as the TCP pose.
+    double flange_pose_actual[pose_size];  ///< Measured flange pose, same order.
+    double
+        joint_target_velocity[joint_limit]; ///< Per joint: velocity target of velocity control, in degrees per second.
+    double joint_target_acceleration[joint_limit]; ///< Per joint: acceleration target of velocity control, in degrees
+                                                   ///< per second squared.
     unsigned char reserved_8[56];
-    std::uint32_t
-        force_ctrl_direction_switch[6]; ///< Per axis x, y, z, rx, ry, rz: force control active, QORIN_SWITCH values.
-    double force_ctrl_force[6];         ///< Force control target force and torque, per axis in the same order.
-    double force_ctrl_velocity[6];      ///< Force control velocity, per axis in the same order.
-    double force_ctrl_acc[6];           ///< Force control acceleration, per axis in the same order.
-    double force_ctrl_dec[6];           ///< Force control deceleration, per axis in the same order.
-    double force_ctrl_stiffness[6];     ///< Force control stiffness, per axis in the same order.
-    double force_ctrl_damping_ratio[6]; ///< Force control damping ratio, per axis in the same order.
-    double force_ctrl_inertia[6];       ///< Force control inertia, per axis in the same order.
-    double force_ctrl_approach_velocity[6]; ///< Force control approach velocity, per axis in the same order.
-    std::uint32_t force_ctrl_coordinate;    ///< Reference frame of force control: a QORIN_REF_COORDINATE value.
+    std::uint32_t force_ctrl_direction_switch[pose_size]; ///< Per axis x, y, z, rx, ry, rz: force control active,
+                                                          ///< QORIN_SWITCH values.
+    double force_ctrl_force[pose_size];         ///< Force control target force and torque, per axis in the same order.
+    double force_ctrl_velocity[pose_size];      ///< Force control velocity, per axis in the same order.
+    double force_ctrl_acc[pose_size];           ///< Force control acceleration, per axis in the same order.
+    double force_ctrl_dec[pose_size];           ///< Force control deceleration, per axis in the same order.
+    double force_ctrl_stiffness[pose_size];     ///< Force control stiffness, per axis in the same order.
+    double force_ctrl_damping_ratio[pose_size]; ///< Force control damping ratio, per axis in the same order.
+    double force_ctrl_inertia[pose_size];       ///< Force control inertia, per axis in the same order.
+    double force_ctrl_approach_velocity[pose_size]; ///< Force control approach velocity, per axis in the same order.
+    std::uint32_t force_ctrl_coordinate;            ///< Reference frame of force control: a QORIN_REF_COORDINATE value.
     unsigned char reserved_9[4];
     double force_ctrl_low_pass_filter; ///< Force control low-pass filter setting.
     unsigned char reserved_10[48];
-    std::uint32_t force_ctrl_sensorless_bias;     ///< Sensorless bias: a QORIN_SWITCH value.
-    std::uint32_t force_ctrl_force_value_bias[6]; ///< Force value bias per axis: QORIN_SWITCH values.
+    std::uint32_t force_ctrl_sensorless_bias;             ///< Sensorless bias: a QORIN_SWITCH value.
+    std::uint32_t force_ctrl_force_value_bias[pose_size]; ///< Force value bias per axis: QORIN_SWITCH values.
     unsigned char reserved_11[4];
     double force_ctrl_actual_force[3];  ///< Force estimated by force control, x, y, z.
     double force_ctrl_actual_torque[3]; ///< Torque estimated by force control, x, y, z.
     unsigned char reserved_12[48];
-    double collision_threshold_joint_torque[6]; ///< Per joint: collision detection torque threshold.
-    double collision_threshold_tcp_force[6]; ///< Collision detection force and torque thresholds at the TCP, x, y, z,
-                                             ///< rx, ry, rz.
-    double collision_threshold_tcp_resultant_force; ///< Collision detection threshold of the resultant TCP force.
+    double collision_threshold_joint_torque[joint_limit]; ///< Per joint: collision detection torque threshold.
+    double collision_threshold_tcp_force[pose_size]; ///< Collision detection force and torque thresholds at the TCP, x,
+                                                     ///< y, z, rx, ry, rz.
+    double collision_threshold_tcp_resultant_force;  ///< Collision detection threshold of the resultant TCP force.
     unsigned char reserved_13[352];
     double velocity_in_reduced_mode[2]; ///< Reduced mode velocity limits.
                                         ///< qorin_robot_safety_limit_velocity_in_reduced_mode_get hands out the second
                                         ///< element first.
-    double collision_torque_in_reduced_mode[6]; ///< Per joint: collision detection torque in reduced mode.
-    double collision_tcp_force_in_reduced_mode; ///< Collision detection TCP force in reduced mode.
-    std::uint32_t safety_crc32;                 ///< CRC-32 of the safety parameters, as the control box computed it.
+    double collision_torque_in_reduced_mode[joint_limit]; ///< Per joint: collision detection torque in reduced mode.
+    double collision_tcp_force_in_reduced_mode;           ///< Collision detection TCP force in reduced mode.
+    std::uint32_t safety_crc32; ///< CRC-32 of the safety parameters, as the control box computed it.
     unsigned char reserved_14[4];
-    joint_data_t joint[6]; ///< Joint records. All six are present whatever number_of_joints says.
+    joint_data_t joint[joint_limit]; ///< Joint records. All six are present whatever number_of_joints says.
 };
 static_assert(offsetof(robot_data_t, number_of_joints) == 4);
 static_assert(offsetof(robot_data_t, tool_module_index) == 8);
@@ -420,13 +424,14 @@ struct QORIN_WIRE_RECORD shared_data_t
     unsigned char reserved_2[20];
     std::uint32_t ecat_connection_state; ///< EtherCAT master link: a QORIN_ECAT_CONN_STATE value.
     unsigned char reserved_3[632];
-    safety_plane_block_t safety_planes[2]; ///< Safety planes, indexed by robot id.
+    safety_plane_block_t safety_planes[robot_limit]; ///< Safety planes, indexed by robot id.
     unsigned char reserved_4[312];
-    safety_shape_block_t safety_shapes[2]; ///< TCP bounding shape state, indexed by robot id.
+    safety_shape_block_t safety_shapes[robot_limit]; ///< TCP bounding shape state, indexed by robot id.
     unsigned char reserved_5[16];
-    std::uint32_t safety_limit_switch[2]; ///< Safety limit master switch, indexed by robot id: a QORIN_SWITCH value.
+    std::uint32_t
+        safety_limit_switch[robot_limit]; ///< Safety limit master switch, indexed by robot id: a QORIN_SWITCH value.
     unsigned char reserved_6[8];
-    robot_data_t robots[2]; ///< Robot records, indexed by robot id.
+    robot_data_t robots[robot_limit]; ///< Robot records, indexed by robot id.
     unsigned char reserved_7[768];
     std::uint32_t master_operational_mode; ///< EtherCAT master state: a QORIN_OPERATIONAL_MODE value.
     unsigned char reserved_8[68];
@@ -459,13 +464,14 @@ struct QORIN_WIRE_RECORD shared_data_t
     unsigned char reserved_11[48];
     std::uint32_t power_button_state; ///< Power button: a QORIN_BUTTON_STATE value.
     unsigned char reserved_12[4];
-    std::uint32_t emergency_button_state;         ///< Emergency button: a QORIN_BUTTON_STATE value.
-    std::uint32_t amr_emergency_button_state[4];  ///< Emergency buttons of a mobile base, indexed 0 to 3:
-                                                  ///< QORIN_BUTTON_STATE values.
-    std::uint32_t conveyor_encoder_index;         ///< Which of the two conveyor encoders is in use: 0 or 1.
-    std::uint32_t conveyor_encoder_switch;        ///< Conveyor encoder in use: a QORIN_SWITCH value.
-    conveyor_encoder_data_t conveyor_encoders[2]; ///< Calibration of the conveyor encoders.
-    ext_ft_sensor_data_t ext_ft_sensors[2];       ///< External force-torque inputs, indexed by robot id.
+    std::uint32_t emergency_button_state; ///< Emergency button: a QORIN_BUTTON_STATE value.
+    std::uint32_t
+        amr_emergency_button_state[amr_emergency_button_limit]; ///< Emergency buttons of a mobile base, indexed 0 to 3:
+                                                                ///< QORIN_BUTTON_STATE values.
+    std::uint32_t conveyor_encoder_index;  ///< Which of the two conveyor encoders is in use: 0 or 1.
+    std::uint32_t conveyor_encoder_switch; ///< Conveyor encoder in use: a QORIN_SWITCH value.
+    conveyor_encoder_data_t conveyor_encoders[conveyor_encoder_limit]; ///< Calibration of the conveyor encoders.
+    ext_ft_sensor_data_t ext_ft_sensors[robot_limit]; ///< External force-torque inputs, indexed by robot id.
     unsigned char reserved_13[4728];
     std::uint32_t safety_module_48v_smps_switch; ///< 48 V supply of the safety module: a QORIN_SWITCH value.
     std::uint32_t
@@ -523,19 +529,33 @@ static_assert(offsetof(shared_data_t, rs485_rx_data) == 29593);
 static_assert(offsetof(shared_data_t, rs485_tx_data) == 29657);
 static_assert(sizeof(shared_data_t) == 29728);
 
+/// A frame as the library keeps it: whatever is read from it by an index that leads out of it reads zeroes.
+struct mirrored_frame
+{
+    alignas(64) shared_data_t frame = {};
+    unsigned char behind[512] = {}; ///< stays zero
+};
+
+/// What lies `offset` bytes from the start of a mirrored frame. The offset is bounded by nothing but the frame's end.
+template <class Record>
+[[nodiscard]] inline const Record& read_at(const shared_data_t& frame, std::size_t offset)
+{
+    static_assert(sizeof(Record) <= sizeof(mirrored_frame::behind));
+    const auto* bytes = reinterpret_cast<const unsigned char*>(&frame);
+    return *reinterpret_cast<const Record*>(bytes + std::min(offset, sizeof(frame)));
+}
+
 /**
- * Record number `index` of a stretch whose count the frame does not tell (modules, drives, ports).
- *
- * Byte arithmetic from the frame's start: the index is not bounded, and an index that is too large reads what lies
- * further on.
+ * Record number `index` of a stretch whose count the frame does not tell (modules, drives, ports), for readers of a
+ * mirrored frame: the index may be any, and one that is too large reads what lies further on.
  */
 template <class Record>
 [[nodiscard]] inline const Record& record_at(const shared_data_t& frame, std::size_t index)
 {
-    const auto* bytes = reinterpret_cast<const unsigned char*>(&frame);
-    return *reinterpret_cast<const Record*>(bytes + Record::frame_offset + Record::stride * index);
+    return read_at<Record>(frame, Record::frame_offset + Record::stride * index);
 }
 
+/// The same for who fills a frame, and answers for the index.
 template <class Record>
 [[nodiscard]] inline Record& record_at(shared_data_t& frame, std::size_t index)
 {
@@ -551,8 +571,9 @@ static_assert(tool_module_data_t::frame_offset == offsetof(shared_data_t, tool_m
 static_assert(ft_sensor_data_t::frame_offset == offsetof(shared_data_t, ft_sensors));
 static_assert(io_link_wp_data_t::frame_offset == offsetof(shared_data_t, io_link_wp));
 static_assert(ecat_low_data_t::frame_offset == offsetof(shared_data_t, ecat_low_data));
-static_assert(15 * io_link_wp_data_t::stride + sizeof(io_link_wp_data_t) == 0x5C9D - 0x5590);
-static_assert(3 * ecat_low_data_t::stride + sizeof(ecat_low_data_t) == sizeof(shared_data_t::ecat_low_data));
+static_assert((io_link_port_limit - 1) * io_link_wp_data_t::stride + sizeof(io_link_wp_data_t) == 0x5C9D - 0x5590);
+static_assert((low_data_device_limit - 1) * ecat_low_data_t::stride + sizeof(ecat_low_data_t) ==
+              sizeof(shared_data_t::ecat_low_data));
 } // namespace protocol
 
 #endif

@@ -1,170 +1,131 @@
-#include "rpc/qorin_api_rpc_event.h"
+#include "qorin/event.h"
 
-#include <algorithm>
-#include <chrono>
-#include <cstddef>
-#include <cstring>
+#include <memory>
 
-#include "api/api_call_log_param_to_string.h"
-#include "api/api_log_print.h"
-#include "savrent/cc/os_util.h"
+#include "rpc/qorin_rpc_client.h"
+#include "rpc/qorin_rpc_event.h"
+#include "rpc/rpc_internal_event.h"
+#include "rpc/wrapper.h"
 
-namespace qorin_api_rpc
-{
+using qorin_api_rpc::command;
+using qorin_api_rpc::logged_call;
+using qorin_api_rpc::qorin_rpc_event;
+
 namespace
 {
-/// Tested before an event is added, so the queue holds one more.
-constexpr std::size_t queue_limit = 512;
-
-constexpr auto poll_pause = std::chrono::milliseconds(1);
+/// Asks the dispatcher of a control box. One that is missing is no error: nothing is done and the answer is OK.
+template <class... Arguments, class... Given>
+QORIN_API_RESULT ask_dispatcher(unsigned int cbox_id, QORIN_API_RESULT (qorin_rpc_event::*operation)(Arguments...),
+                                Given... arguments)
+{
+    const auto client = qorin_api_rpc::get_cbox(cbox_id);
+    const std::shared_ptr<qorin_rpc_event> dispatcher = client == nullptr ? nullptr : client->get_event();
+    return dispatcher == nullptr ? QORIN_API_RESULT_OK : (dispatcher.get()->*operation)(arguments...);
+}
 } // namespace
 
-void qorin_rpc_event::event_cmd_process(const event_info* event)
+QORIN_API_RESULT qorin_rpc_system_event_callback_add(unsigned int cbox_id, qorin_event_callback callback)
 {
-    std::lock_guard lock(mutex_);
-    QORIN_API_LOG_PRINT(QORIN_LOG_TYPE_EVENT, "sender ID: %d, grp: %s, sub: %s\n", static_cast<int>(event->sender_id),
-                        qorin_api::enum_to_string(event->group).c_str(),
-                        qorin_api::enum_to_string(event->subgroup).c_str());
-
-    int parameters[5];
-    std::memcpy(parameters, event->parameter, sizeof(parameters));
-    double real_parameters[32];
-    std::memcpy(real_parameters, event->real_parameter, sizeof(real_parameters));
-    event_handle_process(event->group, event->subgroup, event->sender_id, parameters, real_parameters);
-
-    if (queue_.size() > queue_limit)
-        queue_.pop_front();
-    queue_.push_back(*event);
+    return logged_call<"qorin_system_event_callback_add">(
+        [=] { return ask_dispatcher(cbox_id, &qorin_rpc_event::event_callback_add, callback); }, cbox_id, callback);
 }
 
-void qorin_rpc_event::event_handle_process(unsigned int group, unsigned int subgroup, unsigned int sender_id,
-                                           const int* parameters, const double* /*real_parameters*/) const
+QORIN_API_RESULT qorin_rpc_system_event_callback_remove(unsigned int cbox_id, qorin_event_callback callback)
 {
-    const auto call_all = [&](const std::vector<qorin_event_callback>& callbacks)
-    {
-        for (const qorin_event_callback callback : callbacks)
-            callback(group, subgroup, sender_id, parameters[0], parameters[1], parameters[2], parameters[3],
-                     parameters[4]);
-    };
-    call_all(callbacks_);
-    if (const auto entry = group_callbacks_.find(group); entry != group_callbacks_.end())
-        call_all(entry->second);
-    if (const auto entry = subgroup_callbacks_.find(subgroup); entry != subgroup_callbacks_.end())
-        call_all(entry->second);
+    return logged_call<"qorin_system_event_callback_remove">(
+        [=] { return ask_dispatcher(cbox_id, &qorin_rpc_event::event_callback_remove, callback); }, cbox_id, callback);
 }
 
-QORIN_API_RESULT qorin_rpc_event::event_callback_add(qorin_event_callback callback)
+QORIN_API_RESULT qorin_rpc_system_event_group_callback_add(unsigned int cbox_id, qorin_event_callback callback,
+                                                           unsigned int group)
 {
-    std::lock_guard lock(mutex_);
-    if (std::find(callbacks_.begin(), callbacks_.end(), callback) == callbacks_.end())
-        callbacks_.push_back(callback);
-    return QORIN_API_RESULT_OK;
+    return logged_call<"qorin_system_event_group_callback_add">(
+        [=] { return ask_dispatcher(cbox_id, &qorin_rpc_event::event_group_callback_add, callback, group); }, cbox_id,
+        callback, group);
 }
 
-QORIN_API_RESULT qorin_rpc_event::event_callback_remove(qorin_event_callback callback)
+QORIN_API_RESULT qorin_rpc_system_event_group_callback_remove(unsigned int cbox_id, qorin_event_callback callback,
+                                                              unsigned int group)
 {
-    std::lock_guard lock(mutex_);
-    if (const auto found = std::find(callbacks_.begin(), callbacks_.end(), callback); found != callbacks_.end())
-        callbacks_.erase(found);
-    return QORIN_API_RESULT_OK;
+    return logged_call<"qorin_system_event_group_callback_remove">(
+        [=] { return ask_dispatcher(cbox_id, &qorin_rpc_event::event_group_callback_remove, callback, group); },
+        cbox_id, callback, group);
 }
 
-QORIN_API_RESULT qorin_rpc_event::event_group_callback_add(qorin_event_callback callback, unsigned int group)
+QORIN_API_RESULT qorin_rpc_system_event_group_subgroup_callback_add(unsigned int cbox_id, qorin_event_callback callback,
+                                                                    unsigned int group, unsigned int subgroup)
 {
-    return add_to(group_callbacks_, group, callback);
+    return logged_call<"qorin_system_event_group_subgroup_callback_add">(
+        [=]
+        { return ask_dispatcher(cbox_id, &qorin_rpc_event::event_group_subgroup_callback_add, callback, subgroup); },
+        cbox_id, callback, group, subgroup);
 }
 
-QORIN_API_RESULT qorin_rpc_event::event_group_callback_remove(qorin_event_callback /*callback*/, unsigned int group)
+QORIN_API_RESULT qorin_rpc_system_event_group_subgroup_callback_remove(unsigned int cbox_id,
+                                                                       qorin_event_callback callback,
+                                                                       unsigned int group, unsigned int subgroup)
 {
-    return remove_first_of(group_callbacks_, group);
+    return logged_call<"qorin_system_event_group_subgroup_callback_remove">(
+        [=]
+        { return ask_dispatcher(cbox_id, &qorin_rpc_event::event_group_subgroup_callback_remove, callback, subgroup); },
+        cbox_id, callback, group, subgroup);
 }
 
-QORIN_API_RESULT qorin_rpc_event::event_group_subgroup_callback_add(qorin_event_callback callback,
-                                                                    unsigned int subgroup)
+// The waits take no call lock: a thread may wait while others command.
+
+QORIN_API_RESULT qorin_rpc_system_wait_event_group(unsigned int cbox_id, unsigned int group, unsigned int time_out,
+                                                   char remove, char* occurred)
 {
-    return add_to(subgroup_callbacks_, subgroup, callback);
+    return ask_dispatcher(cbox_id, &qorin_rpc_event::wait_event_group, group, time_out, remove, occurred);
 }
 
-QORIN_API_RESULT qorin_rpc_event::event_group_subgroup_callback_remove(qorin_event_callback /*callback*/,
-                                                                       unsigned int subgroup)
+QORIN_API_RESULT qorin_rpc_system_wait_event_group_subgroup(unsigned int cbox_id, unsigned int group,
+                                                            unsigned int subgroup, unsigned int time_out, char remove,
+                                                            char* occurred)
 {
-    return remove_first_of(subgroup_callbacks_, subgroup);
+    return ask_dispatcher(cbox_id, &qorin_rpc_event::wait_event_group_subgroup, group, subgroup, time_out, remove,
+                          occurred);
 }
 
-QORIN_API_RESULT qorin_rpc_event::add_to(callback_table& table, unsigned int key, qorin_event_callback callback)
+QORIN_API_RESULT qorin_rpc_system_wait_event_group_subgroup_sender_id(unsigned int cbox_id, unsigned int group,
+                                                                      unsigned int subgroup, unsigned int sender_id,
+                                                                      unsigned int time_out, char remove,
+                                                                      char* occurred)
 {
-    std::lock_guard lock(mutex_);
-    table[key].push_back(callback);
-    return QORIN_API_RESULT_OK;
+    return ask_dispatcher(cbox_id, &qorin_rpc_event::wait_event_group_subgroup_sender_id, group, subgroup, sender_id,
+                          time_out, remove, occurred);
 }
 
-QORIN_API_RESULT qorin_rpc_event::remove_first_of(callback_table& table, unsigned int key)
+QORIN_API_RESULT qorin_rpc_system_event_queue_clear(unsigned int cbox_id)
 {
-    std::lock_guard lock(mutex_);
-    if (const auto entry = table.find(key); entry != table.end() && !entry->second.empty())
-        entry->second.erase(entry->second.begin());
-    return QORIN_API_RESULT_OK;
+    return ask_dispatcher(cbox_id, &qorin_rpc_event::event_queue_clear);
 }
 
-QORIN_API_RESULT qorin_rpc_event::wait_event_group(unsigned int group, unsigned int time_out, char remove,
-                                                   char* occurred)
+QORIN_API_RESULT qorin_rpc_ts_event_echo(unsigned int cbox_id, unsigned int group, unsigned int subgroup,
+                                         unsigned int sender_id, int p1, int p2, int p3, int p4, int p5)
 {
-    return wait([=](const event_info& event) { return event.group == group; }, time_out, remove, occurred);
+    return command<"qorin_ts_event_echo">(cbox_id, group, subgroup, sender_id, p1, p2, p3, p4, p5);
 }
 
-QORIN_API_RESULT qorin_rpc_event::wait_event_group_subgroup(unsigned int group, unsigned int subgroup,
-                                                            unsigned int time_out, char remove, char* occurred)
+QORIN_API_RESULT qorin_system_wait_event_group(unsigned int group, unsigned int time_out, char remove, char* occurred)
 {
-    return wait([=](const event_info& event) { return event.group == group && event.subgroup == subgroup; }, time_out,
-                remove, occurred);
+    return qorin_internal_wait_event_group(group, time_out, remove, occurred);
 }
 
-QORIN_API_RESULT qorin_rpc_event::wait_event_group_subgroup_sender_id(unsigned int group, unsigned int subgroup,
-                                                                      unsigned int sender_id, unsigned int time_out,
-                                                                      char remove, char* occurred)
+QORIN_API_RESULT qorin_system_wait_event_group_subgroup(unsigned int group, unsigned int subgroup,
+                                                        unsigned int time_out, char remove, char* occurred)
 {
-    return wait([=](const event_info& event)
-                { return event.group == group && event.subgroup == subgroup && event.sender_id == sender_id; },
-                time_out, remove, occurred);
+    return qorin_internal_wait_event_group_subgroup(group, subgroup, time_out, remove, occurred);
 }
 
-QORIN_API_RESULT qorin_rpc_event::event_queue_clear()
+QORIN_API_RESULT qorin_system_wait_event_group_subgroup_sender_id(unsigned int group, unsigned int subgroup,
+                                                                  unsigned int sender_id, unsigned int time_out,
+                                                                  char remove, char* occurred)
 {
-    std::lock_guard lock(mutex_);
-    queue_.clear();
-    return QORIN_API_RESULT_OK;
+    return qorin_internal_wait_event_group_subgroup_sender_id(group, subgroup, sender_id, time_out, remove, occurred);
 }
 
-// The time is taken before the pause, so that the queue is looked at twice even without a time-out.
-template <class Match>
-QORIN_API_RESULT qorin_rpc_event::wait(Match&& match, unsigned int time_out, char remove, char* occurred)
+QORIN_API_RESULT qorin_system_event_queue_clear(void)
 {
-    using std::chrono::system_clock;
-    *occurred = 0;
-    const system_clock::time_point begin = system_clock::now();
-    std::chrono::milliseconds elapsed{0};
-    do
-    {
-        if (find_event(match, remove != 0))
-        {
-            *occurred = 1;
-            break;
-        }
-        elapsed = std::chrono::duration_cast<std::chrono::milliseconds>(system_clock::now() - begin);
-        savrent::cc::os_util::sleep_for(poll_pause);
-    } while (elapsed.count() <= time_out);
-    return QORIN_API_RESULT_OK;
+    return qorin_internal_event_queue_clear();
 }
-
-template <class Match>
-bool qorin_rpc_event::find_event(Match&& match, bool remove)
-{
-    std::lock_guard lock(mutex_);
-    const auto found = std::find_if(queue_.begin(), queue_.end(), match);
-    if (found == queue_.end())
-        return false;
-    if (remove)
-        queue_.erase(found);
-    return true;
-}
-} // namespace qorin_api_rpc

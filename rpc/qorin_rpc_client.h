@@ -2,8 +2,12 @@
 #define RPC_QORIN_RPC_CLIENT_H
 
 #include <atomic>
+#include <chrono>
+#include <future>
 #include <memory>
 #include <thread>
+
+#include <sys/types.h>
 
 #include "protocol/status_frame.h"
 #include "savrent/cc/tcp_client.h"
@@ -16,13 +20,15 @@ class qorin_rpc_event;
  * The client side of one control box: its three links, the mirror of its status frame, its event dispatcher and the two
  * threads that feed them.
  *
- * Owned by the registry of connections until the process ends. The command link is used under the exported call lock
- * alone. The data thread is the only writer of the mirror; readers take no lock and may see a frame that is partly new.
+ * Owned by the registry of connections, which never lets go of it: other threads may be in here until the process is
+ * gone. The command link is used under the exported call lock alone. The data thread is the only writer of the mirror;
+ * readers take no lock and may see a frame that is partly new.
  */
 class qorin_rpc_client
 {
 public:
-    /// Starts both receive threads. @throws std::system_error when a thread cannot be started
+    /// Starts both receive threads, which no signal interrupts. @throws std::system_error when a thread cannot be
+    /// started
     qorin_rpc_client(unsigned int cbox_id, std::shared_ptr<qorin_rpc_event> event,
                      std::shared_ptr<savrent::cc::tcp_client> command_link,
                      std::shared_ptr<savrent::cc::tcp_client> data_link,
@@ -37,13 +43,27 @@ public:
     int read(unsigned char* buffer, int length);
     int write(const unsigned char* buffer, int length);
 
-    [[nodiscard]] protocol::shared_data_t* get_shared_data() { return &shared_data_; }
+    [[nodiscard]] protocol::shared_data_t* get_shared_data() { return &mirror_.frame; }
     [[nodiscard]] std::shared_ptr<qorin_rpc_event> get_event() const { return event_; }
 
-    /// Makes every blocked read of this connection fail, so that its threads end. For the end of the process.
-    void end_links();
+    /// Whether this process made the connection. A process that was forked off has the object, but not its threads, and
+    /// the links in common with the process that has.
+    [[nodiscard]] bool is_of_this_process() const;
+
+    /// Tells both receive threads to end. The control box notices nothing, and commands go on.
+    void stop_receiving();
+
+    /// Waits for the receive threads after stop_receiving(). One that is still in a callback at the deadline is left to
+    /// itself, and so is the calling thread.
+    void join_receivers(std::chrono::steady_clock::time_point deadline);
+
+    /// Closes the command link, and the others unless their threads are still there. Under the call lock.
+    void release_links();
 
 private:
+    using receive_function = void (qorin_rpc_client::*)();
+
+    [[nodiscard]] std::thread start(receive_function body, std::future<void>& end);
     void data_recv_func();
     void event_recv_func();
 
@@ -55,9 +75,12 @@ private:
     std::shared_ptr<savrent::cc::tcp_client> data_link_;
     std::shared_ptr<savrent::cc::tcp_client> event_link_;
     std::shared_ptr<qorin_rpc_event> event_;
-    alignas(64) protocol::shared_data_t shared_data_ = {};
+    protocol::mirrored_frame mirror_;
     std::thread data_thread_;
     std::thread event_thread_;
+    std::future<void> data_end_; ///< ready when the thread's function is through
+    std::future<void> event_end_;
+    const pid_t process_;
     std::atomic<bool> is_running_ = true; ///< shared by both links: one that fails ends both threads
 };
 } // namespace qorin_api_rpc

@@ -6,7 +6,6 @@
 #include <string>
 #include <type_traits>
 
-#include "api/api_call_line.h"
 #include "api/api_log_print.h"
 #include "protocol/rpc_record.h"
 #include "qorin/catalogue.h"
@@ -30,14 +29,18 @@ inline constexpr bool slots_suffice =
 template <class... Params>
 QORIN_API_RESULT exchange_records(qorin_rpc_client& client, const std::string& wire_name, Params... params)
 {
-    std::memcpy(get_in_param(), wire_name.c_str(), wire_name.size() + 1);
+    protocol::request_record& request = *get_in_param();
+    protocol::reply_record& reply = *get_out_param();
+    std::memcpy(request.wire_name, wire_name.c_str(), wire_name.size() + 1);
     (store_param(params), ...);
 
-    // Neither outcome is looked at: a lost link leaves the reply zeroed, and that is the answer.
-    client.write(get_in_param(), sizeof(protocol::request_record));
-    client.read(get_out_param(), sizeof(protocol::reply_record));
+    // A lost link shows as a reply of zeroes, and one that tore the reply is lost too: half an answer is none.
+    constexpr int reply_size = sizeof(reply);
+    client.write(protocol::wire_bytes(request), sizeof(request));
+    if (client.read(protocol::wire_bytes(reply), reply_size) != reply_size)
+        reply = {};
 
-    const auto result = static_cast<QORIN_API_RESULT>(reply().result);
+    const auto result = static_cast<QORIN_API_RESULT>(reply.result);
     init_param_count();
     (fill_param(params), ...);
     return result;
@@ -46,7 +49,8 @@ QORIN_API_RESULT exchange_records(qorin_rpc_client& client, const std::string& w
 /**
  * Sends a command to a control box and waits for its reply, without a time-out.
  *
- * Not re-entrant: the caller holds the exported call lock.
+ * Not re-entrant: the caller is a logged call, which holds the exported call lock and closes the call depth. The wire
+ * name fits its field, since those of logged calls do.
  */
 template <class... Params>
 QORIN_API_RESULT qorin_api_rpc_common_func_call(const std::string& wire_name, unsigned int cbox_id, Params&&... params)
@@ -63,7 +67,6 @@ QORIN_API_RESULT qorin_api_rpc_common_func_call(const std::string& wire_name, un
     if (result != QORIN_API_RESULT_OK)
         QORIN_API_LOG_PRINT(QORIN_LOG_TYPE_ERROR, "%s(): %s(%d)\n", wire_name.c_str(),
                             qorin_system_api_result_string_get(result), static_cast<int>(result));
-    qorin_internal_func_call_set_zero();
     return result;
 }
 } // namespace qorin_api_rpc

@@ -10,9 +10,10 @@
 #include "api/qorin_enum_to_string.h"
 #include "api/system_control_check.h"
 #include "qorin/catalogue.h"
+#include "rpc/api_call_recursive_lock.h"
 #include "rpc/cbox_registry.h"
-#include "rpc/qorin_api_rpc_event.h"
 #include "rpc/qorin_rpc_client.h"
+#include "rpc/qorin_rpc_event.h"
 #include "savrent/cc/immortal.h"
 #include "savrent/cc/os_util.h"
 #include "savrent/cc/tcp_client.h"
@@ -33,15 +34,13 @@ constexpr auto link_pause = 100ms;
 
 std::atomic<unsigned int> g_cbox_id = 0;
 
-/**
- * Ends all connections when the process ends, so that no receive thread runs callbacks or waits for a silent control
- * box after that.
- *
- * Made by the first connection, hence destroyed before all that the application made earlier.
- */
-struct registry_end
+/// How long the end of the process waits for a callback to return.
+constexpr auto callback_limit = 2s;
+
+/// Made by the first connection, hence destroyed ahead of all that the application made earlier and callbacks may use.
+struct reception_end
 {
-    ~registry_end() { end_connections(); }
+    ~reception_end() { end_reception(); }
 };
 
 struct connection_links
@@ -71,17 +70,38 @@ bool connect_all(const connection_links& links, const char* address, unsigned sh
     savrent::cc::os_util::sleep_for(link_pause);
     return connect_link(*links.event, "event uploading", address, port);
 }
+
+/**
+ * Closes the links when the library leaves the process, be it that the process ends or that the library is unloaded:
+ * after all handlers and static objects of a program that links it, so that these may still command.
+ *
+ * The lock stays taken, and a thread that commands after this waits for the end of the process. Where a command has not
+ * come back the links are the operating system's to close.
+ */
+[[gnu::destructor]] void close_links()
+{
+    end_reception(); // an unloading comes by here first
+    if (!no_mangle_qorin_api_call_recursive_lock::mtx.try_lock())
+        return;
+    for (const auto& [id, client] : *g_cbox_map)
+        if (client->is_of_this_process())
+            client->release_links();
+}
 } // namespace
 
 void system_create() {}
 
 void system_destroy() {}
 
-void end_connections()
+void end_reception()
 {
+    const auto deadline = std::chrono::steady_clock::now() + callback_limit;
     for (const auto& [id, client] : *g_cbox_map)
-        client->end_links();
-    g_cbox_map->clear();
+        if (client->is_of_this_process())
+            client->stop_receiving();
+    for (const auto& [id, client] : *g_cbox_map)
+        if (client->is_of_this_process())
+            client->join_receivers(deadline);
 }
 
 QORIN_API_RESULT qorin_api_internal_rpc_system_create(const char* address, unsigned short port, unsigned int* cbox_id)
@@ -104,7 +124,7 @@ QORIN_API_RESULT qorin_api_internal_rpc_system_create(const char* address, unsig
     if (cbox_id != nullptr)
         *cbox_id = id;
     g_cbox_id.store(id + 1, std::memory_order_relaxed);
-    static registry_end at_process_end;
+    static reception_end at_process_end;
     auto event = std::make_shared<qorin_rpc_event>(id);
     auto client = std::make_shared<qorin_rpc_client>(id, std::move(event), std::move(links.command),
                                                      std::move(links.data), std::move(links.event));

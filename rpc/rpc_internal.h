@@ -9,9 +9,9 @@ namespace qorin_api_rpc
 void system_create();
 void system_destroy();
 
-/// Ends the links of all connections and waits for their threads. For the end of the process; a further call does
-/// nothing.
-void end_connections();
+/// Ends the receive threads of this process's connections. From here on no callback runs, the mirrors stand still and
+/// commands go on. For the end of the process; a further call does nothing.
+void end_reception();
 
 /**
  * Makes the three links to a control box and registers the connection.

@@ -6,7 +6,6 @@
 #include <cstring>
 #include <type_traits>
 
-#include "protocol/rpc_record.h"
 #include "rpc/rpc_record_store.h"
 
 /**
@@ -33,16 +32,6 @@ inline constexpr QORIN_API_RPC_PARAM_TYPE
     request_area = std::is_pointer_v<T>
                        ? (is_real<T>::value ? QORIN_API_RPC_PARAM_TYPE_DOUBLE_BLOCK : QORIN_API_RPC_PARAM_TYPE_BLOCK)
                        : (is_real<T>::value ? QORIN_API_RPC_PARAM_TYPE_DOUBLE : QORIN_API_RPC_PARAM_TYPE_VALUE);
-
-inline protocol::request_record& request()
-{
-    return *reinterpret_cast<protocol::request_record*>(get_in_param());
-}
-
-inline const protocol::reply_record& reply()
-{
-    return *reinterpret_cast<const protocol::reply_record*>(get_out_param());
-}
 
 /// The next free slot of an area.
 inline unsigned int take_slot(QORIN_API_RPC_PARAM_TYPE area)
@@ -71,20 +60,20 @@ __attribute__((no_sanitize("address", "thread", "undefined"))) inline void copy_
 template <class T>
 void qorin_api_rpc_store_input_param_value(T value, std::true_type /*is double*/)
 {
-    request().real[take_slot(QORIN_API_RPC_PARAM_TYPE_DOUBLE)] = value;
+    get_in_param()->real[take_slot(QORIN_API_RPC_PARAM_TYPE_DOUBLE)] = value;
 }
 
 template <class T>
 void qorin_api_rpc_store_input_param_value(T value, std::false_type /*is double*/)
 {
-    request().value[take_slot(QORIN_API_RPC_PARAM_TYPE_VALUE)] = static_cast<std::uint32_t>(value);
+    get_in_param()->value[take_slot(QORIN_API_RPC_PARAM_TYPE_VALUE)] = static_cast<std::uint32_t>(value);
 }
 
 /// A null pointer has no bytes to copy: its slot is taken and stays zero.
 template <class T>
 void qorin_api_rpc_store_input_param_type_pointer(T pointer, std::true_type /*points at doubles*/)
 {
-    unsigned char* slot = request().double_block[take_slot(QORIN_API_RPC_PARAM_TYPE_DOUBLE_BLOCK)];
+    unsigned char* slot = get_in_param()->double_block[take_slot(QORIN_API_RPC_PARAM_TYPE_DOUBLE_BLOCK)];
     if (pointer != nullptr)
         copy_block(slot, pointer);
 }
@@ -92,7 +81,7 @@ void qorin_api_rpc_store_input_param_type_pointer(T pointer, std::true_type /*po
 template <class T>
 void qorin_api_rpc_store_input_param_type_pointer(T pointer, std::false_type /*points at doubles*/)
 {
-    unsigned char* slot = request().block[take_slot(QORIN_API_RPC_PARAM_TYPE_BLOCK)];
+    unsigned char* slot = get_in_param()->block[take_slot(QORIN_API_RPC_PARAM_TYPE_BLOCK)];
     if (pointer != nullptr)
         copy_block(slot, pointer);
 }
@@ -118,9 +107,9 @@ void fill_param(T param)
         if (param == nullptr)
             return;
         if constexpr (is_real<T>::value)
-            std::memcpy(param, &reply().real[slot], sizeof(double));
+            std::memcpy(param, &get_out_param()->real[slot], sizeof(double));
         else
-            std::memcpy(static_cast<void*>(param), &reply().value[slot], sizeof(std::uint32_t));
+            std::memcpy(static_cast<void*>(param), &get_out_param()->value[slot], sizeof(std::uint32_t));
     }
 }
 } // namespace qorin_api_rpc

@@ -1,9 +1,6 @@
 #include "rpc/rpc_record_store.h"
 
 #include <array>
-#include <cstring>
-
-#include "protocol/rpc_record.h"
 
 namespace qorin_api_rpc
 {
@@ -14,20 +11,20 @@ alignas(64) protocol::reply_record g_out;
 std::array<unsigned int, 4> g_param_cnt;
 } // namespace
 
-unsigned char* get_in_param()
+protocol::request_record* get_in_param()
 {
-    return reinterpret_cast<unsigned char*>(&g_in);
+    return &g_in;
 }
 
-unsigned char* get_out_param()
+protocol::reply_record* get_out_param()
 {
-    return reinterpret_cast<unsigned char*>(&g_out);
+    return &g_out;
 }
 
 void init_in_out_param()
 {
-    std::memset(&g_in, 0, sizeof(g_in));
-    std::memset(&g_out, 0, sizeof(g_out));
+    g_in = {};
+    g_out = {};
 }
 
 void init_param_count()

@@ -1,6 +1,8 @@
 #ifndef RPC_RPC_RECORD_STORE_H
 #define RPC_RPC_RECORD_STORE_H
 
+#include "protocol/rpc_record.h"
+
 /**
  * The one request record, the one reply record and the slot counters of the process.
  *
@@ -17,8 +19,8 @@ enum QORIN_API_RPC_PARAM_TYPE : unsigned int
     QORIN_API_RPC_PARAM_TYPE_DOUBLE_BLOCK = 3
 };
 
-[[nodiscard]] unsigned char* get_in_param();
-[[nodiscard]] unsigned char* get_out_param();
+[[nodiscard]] protocol::request_record* get_in_param();
+[[nodiscard]] protocol::reply_record* get_out_param();
 
 /// Zeroes both records.
 void init_in_out_param();

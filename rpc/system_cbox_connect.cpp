@@ -4,6 +4,7 @@
 #include <chrono>
 #include <cstring>
 #include <functional>
+#include <mutex>
 #include <string>
 
 #include "api/api_call_line.h"
@@ -11,7 +12,9 @@
 #include "api/api_call_logger.h"
 #include "api/api_log_print.h"
 #include "protocol/rpc_record.h"
+#include "rpc/api_call_recursive_lock.h"
 #include "rpc/rpc_internal.h"
+#include "savrent/cc/diagnostics.h"
 #include "savrent/cc/os_util.h"
 #include "savrent/cc/system_config_parser.h"
 
@@ -44,10 +47,27 @@ void print_configuration(const system_config_parser& configuration)
         { QORIN_API_LOG_PRINT(QORIN_LOG_TYPE_INFO, "[system config ini: %s] %s: %s\n", section, key, value); });
 }
 
+/**
+ * Closes the log files when the library leaves a process that goes on.
+ *
+ * When the process ends instead, late handlers may still command: their lines open the files again, and a call that
+ * another thread is in keeps them open.
+ */
+struct logger_end
+{
+    ~logger_end()
+    {
+        const std::unique_lock lock(no_mangle_qorin_api_call_recursive_lock::mtx, std::try_to_lock);
+        if (lock)
+            qorin_api::logger_rest();
+    }
+};
+
 /// Loads the configuration and starts the logger, once in a process and whatever comes of it.
 QORIN_API_RESULT initialise_process(const char* config_path)
 {
     qorin_api_rpc::system_create();
+    savrent::cc::start_diagnostics();
     const auto configuration = system_config_parser::get_instance();
     if (!configuration->load_file(config_path))
     {
@@ -57,6 +77,7 @@ QORIN_API_RESULT initialise_process(const char* config_path)
     print_configuration(*configuration);
     qorin_api::logger_initialize();
     qorin_api::logger_take_control();
+    static const logger_end at_end; // ahead of the first connection, hence after the end of all of them
     g_b_init.store(true, std::memory_order_relaxed);
     return QORIN_API_RESULT_OK;
 }
@@ -72,12 +93,13 @@ QORIN_API_RESULT qorin_rpc_system_cbox_connect(const char* config_path, const ch
     if (result != QORIN_API_RESULT_OK)
         return result;
 
-    unsigned int id = 0;
-    result = qorin_api_rpc::qorin_api_internal_rpc_system_create(address, protocol::control_box_port, &id);
+    // The application's variable has the id before the receive threads start, also when one cannot be started.
+    unsigned int unasked = 0;
+    unsigned int* const id_out = cbox_id != nullptr ? cbox_id : &unasked;
+    result = qorin_api_rpc::qorin_api_internal_rpc_system_create(address, protocol::control_box_port, id_out);
     if (result != QORIN_API_RESULT_OK)
         return result;
-    if (cbox_id != nullptr)
-        *cbox_id = id;
+    const unsigned int id = *id_out;
 
     savrent::cc::os_util::sleep_for(first_frame_wait);
     const bool versions_match =

@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <memory>
 #include <mutex>
+#include <source_location>
 #include <string_view>
 #include <type_traits>
 
@@ -19,21 +20,39 @@
 /// The two shapes that almost all exported functions have.
 namespace qorin_api_rpc
 {
-/// A wire name as a template argument.
+/// "qorin_x" is the wire name of the export "qorin_rpc_x", without exception.
+inline constexpr std::string_view wire_prefix = "qorin_";
+inline constexpr std::string_view exported_prefix = "qorin_rpc_";
+
+/// Whether a wire name is that of the function it stands in. Functions that are no exports may use any name.
+[[nodiscard]] consteval bool may_stand_in(std::string_view wire_name, std::string_view function)
+{
+    std::string_view name = function.substr(0, function.find('('));
+    name.remove_prefix(name.find_last_of(" *&") + 1); // nothing there: npos and one is none
+    if (!name.starts_with(exported_prefix))
+        return true;
+    return wire_name.starts_with(wire_prefix) &&
+           wire_name.substr(wire_prefix.size()) == name.substr(exported_prefix.size());
+}
+
+/// A wire name as a template argument: one that fits a request and is that of the function it stands in.
 template <std::size_t Size>
 struct wire_name_text
 {
-    consteval wire_name_text(const char (&literal)[Size]) { std::copy_n(literal, Size, text); }
+    consteval wire_name_text(const char (&literal)[Size], std::source_location place = std::source_location::current())
+    {
+        static_assert(Size <= sizeof(protocol::request_record::wire_name));
+        if (!may_stand_in(literal, place.function_name()))
+            throw "the wire name of another function";
+        std::copy_n(literal, Size, text);
+    }
 
     char text[Size];
 };
 
-/// "qorin_x" is the wire name of the export "qorin_rpc_x", without exception.
 template <wire_name_text WireName>
 consteval auto exported_name_of()
 {
-    constexpr std::string_view wire_prefix = "qorin_";
-    constexpr std::string_view exported_prefix = "qorin_rpc_";
     constexpr std::string_view wire_name = WireName.text;
     static_assert(wire_name.starts_with(wire_prefix));
 
@@ -46,36 +65,41 @@ consteval auto exported_name_of()
 template <wire_name_text WireName>
 inline constexpr auto exported_name = exported_name_of<WireName>();
 
-/// Takes the call lock and writes the call line of the command, then runs `work` under the lock.
-template <wire_name_text WireName, class Work, class... Params>
-auto logged_call(Work&& work, Params... params)
+/// Stands around a logged call: the call lock, and the call depth, which every call that ends sets to 0.
+class call_bracket
 {
-    std::lock_guard lock(no_mangle_qorin_api_call_recursive_lock::mtx);
-    QORIN_API_LOG_BEGIN_INTERNAL();
+public:
+    call_bracket() { QORIN_API_LOG_BEGIN_INTERNAL(); }
+    ~call_bracket() { qorin_internal_func_call_set_zero(); }
+    call_bracket(const call_bracket&) = delete;
+    call_bracket& operator=(const call_bracket&) = delete;
+
+private:
+    std::lock_guard<std::recursive_mutex> lock_{no_mangle_qorin_api_call_recursive_lock::mtx};
+};
+
+/// Writes the call line of the command, then runs `work` in the bracket. What sends a command in its work has that
+/// under the line of this one.
+template <wire_name_text WireName, class Work, class... Params>
+QORIN_API_RESULT logged_call(const Work& work, Params... params)
+{
+    const call_bracket bracket;
     QORIN_API_LOG_FUNC_CALL(exported_name<WireName>.data(), qorin_api::param_to_string(params)...);
     return work();
 }
 
-/// A logged call whose work is done on this side. What sends a command in its work has that under the line of this one.
-template <wire_name_text WireName, class Work, class... Params>
-QORIN_API_RESULT logged_local_call(Work&& work, Params... params)
+/// One request and its reply, as the work of a logged call.
+template <wire_name_text WireName, class... Params>
+QORIN_API_RESULT send_command(unsigned int cbox_id, Params... params)
 {
-    const auto finish = [&]
-    {
-        const QORIN_API_RESULT result = work();
-        qorin_internal_func_call_set_zero();
-        return result;
-    };
-    return logged_call<WireName>(finish, params...);
+    return qorin_api_rpc_common_func_call(WireName.text, cbox_id, params...);
 }
 
 /// A command: call lock, call line, one request and its reply.
 template <wire_name_text WireName, class... Params>
 QORIN_API_RESULT command(unsigned int cbox_id, Params... params)
 {
-    static_assert(sizeof(WireName.text) <= sizeof(protocol::request_record::wire_name));
-    return logged_call<WireName>([&] { return qorin_api_rpc_common_func_call(WireName.text, cbox_id, params...); },
-                                 cbox_id, params...);
+    return logged_call<WireName>([&] { return send_command<WireName>(cbox_id, params...); }, cbox_id, params...);
 }
 
 /**

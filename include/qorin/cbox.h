@@ -30,7 +30,7 @@ QORIN_API_C_BEGIN
  * Field: master_operational_mode.
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
- * @param mode  output: a QORIN_OPERATIONAL_MODE value.
+ * @param[out] mode  a QORIN_OPERATIONAL_MODE value.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_master_operational_mode_get(unsigned int cbox_id,
@@ -42,8 +42,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_master_operational_mode_get(unsigned i
  * Field: cbox_name.
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
- * @param name  output: a QORIN_CBOX_MODEL value; QORIN_CBOX_MODEL_NONE while no system is created, where the control
- * box says so.
+ * @param[out] name  a QORIN_CBOX_MODEL value; QORIN_CBOX_MODEL_NONE while no system is created, where the control box
+ * says so.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_name_get(unsigned int cbox_id, QORIN_CBOX_MODEL* name);
@@ -54,7 +54,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_name_get(unsigned int cbox_id, QORIN_C
  * Field: emergency_button_state.
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
- * @param state  output: pushed or released.
+ * @param[out] state  pushed or released.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_emergency_button_state_get(unsigned int cbox_id, QORIN_BUTTON_STATE* state);
@@ -66,7 +66,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_emergency_button_state_get(unsigned in
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param index  button, 0 to 3.
- * @param state  output: pushed or released.
+ * @param[out] state  pushed or released.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  * QORIN_API_RESULT_ERROR_CBOX_INVALID_AMR_EMG_NUMBER when index is out of range.
  */
@@ -79,7 +79,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_amr_emergency_button_state_get(unsigne
  * Field: ecat_connection_state.
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
- * @param state  output: a QORIN_ECAT_CONN_STATE value.
+ * @param[out] state  a QORIN_ECAT_CONN_STATE value.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ecat_connection_state_get(unsigned int cbox_id, QORIN_ECAT_CONN_STATE* state);
@@ -90,7 +90,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ecat_connection_state_get(unsigned int
  * Field: power_button_state.
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
- * @param state  output: pushed or released.
+ * @param[out] state  pushed or released.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_power_button_state_get(unsigned int cbox_id, QORIN_BUTTON_STATE* state);
@@ -103,7 +103,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_power_button_state_get(unsigned int cb
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param module  I/O module, 0 for the first. Not bounded: a module that does not exist reads other state.
  * @param channel  channel, 0 to 15.
- * @param value  output: 0 or 1.
+ * @param[out] value  0 or 1.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  * QORIN_API_RESULT_ERROR_CBOX_INVALID_IO_NUMBER when channel is out of range.
  */
@@ -117,7 +117,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_gen_cbox_io_digital_input_get(unsigned int 
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param channel  channel, 0 to 15.
- * @param value  output: 0 or 1.
+ * @param[out] value  0 or 1.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  * QORIN_API_RESULT_ERROR_CBOX_INVALID_IO_NUMBER when channel is out of range.
  */
@@ -132,7 +132,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_io_digital_input_get(unsigned int cbox
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param module  I/O module, 0 for the first. Not bounded: a module that does not exist reads other state.
  * @param channel  channel, 0 to 15.
- * @param value  output: 0 or 1.
+ * @param[out] value  0 or 1.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  * QORIN_API_RESULT_ERROR_CBOX_INVALID_IO_NUMBER when channel is out of range.
  */
@@ -146,7 +146,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_gen_cbox_io_digital_output_get(unsigned int
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param channel  channel, 0 to 15.
- * @param value  output: 0 or 1.
+ * @param[out] value  0 or 1.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  * QORIN_API_RESULT_ERROR_CBOX_INVALID_IO_NUMBER when channel is out of range.
  */
@@ -161,7 +161,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_io_digital_output_get(unsigned int cbo
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param module  I/O module, 0 for the first. Not bounded: a module that does not exist reads other state.
  * @param channel  channel, 0 to 1.
- * @param value  output: value in the control box's unit for the channel's mode.
+ * @param[out] value  value in the control box's unit for the channel's mode.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  * QORIN_API_RESULT_ERROR_CBOX_INVALID_IO_NUMBER when channel is out of range.
  */
@@ -175,7 +175,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_gen_cbox_io_analog_input_get(unsigned int c
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param channel  channel, 0 to 1.
- * @param value  output: value in the control box's unit for the channel's mode.
+ * @param[out] value  value in the control box's unit for the channel's mode.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  * QORIN_API_RESULT_ERROR_CBOX_INVALID_IO_NUMBER when channel is out of range.
  */
@@ -190,7 +190,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_io_analog_input_get(unsigned int cbox_
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param module  I/O module, 0 for the first. Not bounded: a module that does not exist reads other state.
  * @param channel  channel, 0 to 1.
- * @param value  output: value in the control box's unit for the channel's mode.
+ * @param[out] value  value in the control box's unit for the channel's mode.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  * QORIN_API_RESULT_ERROR_CBOX_INVALID_IO_NUMBER when channel is out of range.
  */
@@ -204,7 +204,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_gen_cbox_io_analog_output_get(unsigned int 
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param channel  channel, 0 to 1.
- * @param value  output: value in the control box's unit for the channel's mode.
+ * @param[out] value  value in the control box's unit for the channel's mode.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  * QORIN_API_RESULT_ERROR_CBOX_INVALID_IO_NUMBER when channel is out of range.
  */
@@ -219,9 +219,9 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_io_analog_output_get(unsigned int cbox
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param module  I/O module, 0 for the first. Not bounded: a module that does not exist reads other state.
  * @param channel  channel, 0 to 1.
- * @param mode  output: voltage or current.
- * @param range  neither read nor written: the status mirror holds no range.
- * @param range_value  neither read nor written.
+ * @param[out] mode  voltage or current.
+ * @param[out] range  neither read nor written: the status mirror holds no range.
+ * @param[out] range_value  neither read nor written.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  * QORIN_API_RESULT_ERROR_CBOX_INVALID_IO_NUMBER when channel is out of range.
  */
@@ -236,9 +236,9 @@ QORIN_API QORIN_API_RESULT qorin_rpc_gen_cbox_io_analog_input_mode_get(unsigned 
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param channel  channel, 0 to 1.
- * @param mode  output: voltage or current.
- * @param range  neither read nor written: the status mirror holds no range.
- * @param range_value  neither read nor written.
+ * @param[out] mode  voltage or current.
+ * @param[out] range  neither read nor written: the status mirror holds no range.
+ * @param[out] range_value  neither read nor written.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  * QORIN_API_RESULT_ERROR_CBOX_INVALID_IO_NUMBER when channel is out of range.
  */
@@ -254,9 +254,9 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_io_analog_input_mode_get(unsigned int 
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param module  I/O module, 0 for the first. Not bounded: a module that does not exist reads other state.
  * @param channel  channel, 0 to 1.
- * @param mode  output: voltage or current.
- * @param range  neither read nor written: the status mirror holds no range.
- * @param range_value  neither read nor written.
+ * @param[out] mode  voltage or current.
+ * @param[out] range  neither read nor written: the status mirror holds no range.
+ * @param[out] range_value  neither read nor written.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  * QORIN_API_RESULT_ERROR_CBOX_INVALID_IO_NUMBER when channel is out of range.
  */
@@ -272,9 +272,9 @@ QORIN_API QORIN_API_RESULT qorin_rpc_gen_cbox_io_analog_output_mode_get(unsigned
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param channel  channel, 0 to 1.
- * @param mode  output: voltage or current.
- * @param range  neither read nor written: the status mirror holds no range.
- * @param range_value  neither read nor written.
+ * @param[out] mode  voltage or current.
+ * @param[out] range  neither read nor written: the status mirror holds no range.
+ * @param[out] range_value  neither read nor written.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  * QORIN_API_RESULT_ERROR_CBOX_INVALID_IO_NUMBER when channel is out of range.
  */
@@ -290,7 +290,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_io_analog_output_mode_get(unsigned int
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param module  I/O module, 0 for the first. Not bounded: a module that does not exist reads other state.
  * @param channel  channel, 0 to 15.
- * @param value  output: 0 or 1.
+ * @param[out] value  0 or 1.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  * QORIN_API_RESULT_ERROR_CBOX_INVALID_IO_NUMBER when channel is out of range.
  */
@@ -304,7 +304,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_gen_cbox_redundant_io_digital_input_get(uns
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param channel  channel, 0 to 15.
- * @param value  output: 0 or 1.
+ * @param[out] value  0 or 1.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  * QORIN_API_RESULT_ERROR_CBOX_INVALID_IO_NUMBER when channel is out of range.
  */
@@ -319,7 +319,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_redundant_io_digital_input_get(unsigne
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param module  I/O module, 0 for the first. Not bounded: a module that does not exist reads other state.
  * @param channel  channel, 0 to 15.
- * @param value  output: 0 or 1.
+ * @param[out] value  0 or 1.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  * QORIN_API_RESULT_ERROR_CBOX_INVALID_IO_NUMBER when channel is out of range.
  */
@@ -334,7 +334,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_gen_cbox_redundant_io_digital_output_get(un
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param channel  channel, 0 to 15.
- * @param value  output: 0 or 1.
+ * @param[out] value  0 or 1.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  * QORIN_API_RESULT_ERROR_CBOX_INVALID_IO_NUMBER when channel is out of range.
  */
@@ -349,7 +349,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_redundant_io_digital_output_get(unsign
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param module  I/O module, 0 for the first. Not bounded: a module that does not exist reads other state.
  * @param input  QORIN_FSOE_RESET_INPUT to QORIN_FSOE_REAR_OSSD_B_INPUT.
- * @param value  output: 0 or 1.
+ * @param[out] value  0 or 1.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  * QORIN_API_RESULT_ERROR_CBOX_INVALID_IO_NUMBER when input is none of these.
  */
@@ -365,7 +365,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_gen_cbox_fsoe_io_digital_input_get(unsigned
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param module  I/O module, 0 for the first. Not bounded: a module that does not exist reads other state.
  * @param output  QORIN_FSOE_MC3_POWER_OUTPUT, the only one.
- * @param value  output: 0 or 1.
+ * @param[out] value  0 or 1.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  * QORIN_API_RESULT_ERROR_CBOX_INVALID_IO_NUMBER when output is any other.
  */
@@ -380,7 +380,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_gen_cbox_fsoe_io_digital_output_get(unsigne
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param index  input, 0 to 7.
- * @param value  output: 0 or 1.
+ * @param[out] value  0 or 1.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  * QORIN_API_RESULT_ERROR_CBOX_INVALID_IO_NUMBER when index is out of range.
  */
@@ -394,7 +394,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_safety_module_redundant_io_digital_inp
  * Field: safety_module_48v_smps_switch.
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
- * @param smps_switch  output: QORIN_SWITCH_ON or QORIN_SWITCH_OFF.
+ * @param[out] smps_switch  QORIN_SWITCH_ON or QORIN_SWITCH_OFF.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_safety_module_48v_smps_switch_get(unsigned int cbox_id,
@@ -408,7 +408,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_safety_module_48v_smps_switch_get(unsi
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param device  low-data EtherCAT device, 0 to 3.
  * @param size  number of bytes, 0 to 32.
- * @param data  output: `size` bytes.
+ * @param[out] data  [size] `size` bytes.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  * QORIN_API_RESULT_ERROR_INVALID_DEVICE_ID_NUMBER when device is out of range; QORIN_API_RESULT_ERROR_INVALID_DATA_SIZE
  * when size is out of range.
@@ -424,7 +424,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ecat_low_data_io_rx_data_get(unsigned 
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param device  low-data EtherCAT device, 0 to 3.
  * @param size  number of bytes, 0 to 32.
- * @param data  output: `size` bytes.
+ * @param[out] data  [size] `size` bytes.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  * QORIN_API_RESULT_ERROR_INVALID_DEVICE_ID_NUMBER when device is out of range; QORIN_API_RESULT_ERROR_INVALID_DATA_SIZE
  * when size is out of range.
@@ -440,7 +440,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ecat_low_data_io_tx_data_get(unsigned 
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param port  IO-Link wireless port, 0 to 15.
  * @param size  number of bytes, 0 to 32.
- * @param data  output: `size` bytes.
+ * @param[out] data  [size] `size` bytes.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  * QORIN_API_RESULT_ERROR_IO_LINK_INVALID_WP_NUMBER when port is out of range; QORIN_API_RESULT_ERROR_INVALID_DATA_SIZE
  * when size is out of range.
@@ -456,7 +456,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ecat_io_link_wp_rx_data_get(unsigned i
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param port  IO-Link wireless port, 0 to 15.
  * @param size  number of bytes, 0 to 32.
- * @param data  output: `size` bytes.
+ * @param[out] data  [size] `size` bytes.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  * QORIN_API_RESULT_ERROR_IO_LINK_INVALID_WP_NUMBER when port is out of range; QORIN_API_RESULT_ERROR_INVALID_DATA_SIZE
  * when size is out of range.
@@ -471,7 +471,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ecat_io_link_wp_tx_data_get(unsigned i
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param port  IO-Link wireless port, 0 to 15.
- * @param status  output: state byte of the port.
+ * @param[out] status  state byte of the port.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  * QORIN_API_RESULT_ERROR_IO_LINK_INVALID_WP_NUMBER when port is out of range.
  */
@@ -485,7 +485,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ecat_io_link_wp_status_data_get(unsign
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param device  IO-Link master, 0.
- * @param bits  output: status bits.
+ * @param[out] bits  status bits.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  * QORIN_API_RESULT_ERROR_INVALID_DEVICE_ID_NUMBER when device is out of range.
  */
@@ -499,7 +499,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ecat_io_link_status_bit_data_get(unsig
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param device  IO-Link master, 0.
- * @param bits  output: control bits.
+ * @param[out] bits  control bits.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  * QORIN_API_RESULT_ERROR_INVALID_DEVICE_ID_NUMBER when device is out of range.
  */
@@ -513,7 +513,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ecat_io_link_control_bit_get(unsigned 
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param device  IO-Link master, 0.
- * @param bits  output: input bits.
+ * @param[out] bits  input bits.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  * QORIN_API_RESULT_ERROR_INVALID_DEVICE_ID_NUMBER when device is out of range.
  */
@@ -527,7 +527,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ecat_io_link_input_bit_get(unsigned in
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param device  IO-Link master, 0.
- * @param bits  output: output bits.
+ * @param[out] bits  bits of the outputs, all in one number.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  * QORIN_API_RESULT_ERROR_INVALID_DEVICE_ID_NUMBER when device is out of range.
  */
@@ -542,7 +542,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ecat_io_link_output_bit_get(unsigned i
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param device  IO-Link master, 0.
  * @param size  number of bytes, 0 to 64.
- * @param data  output: `size` bytes.
+ * @param[out] data  [size] `size` bytes.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  * QORIN_API_RESULT_ERROR_INVALID_DEVICE_ID_NUMBER when device is out of range; QORIN_API_RESULT_ERROR_INVALID_DATA_SIZE
  * when size is out of range.
@@ -558,7 +558,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ecat_io_link_rx_data_get(unsigned int 
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param device  IO-Link master, 0.
  * @param size  number of bytes, 0 to 64.
- * @param data  output: `size` bytes.
+ * @param[out] data  [size] `size` bytes.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  * QORIN_API_RESULT_ERROR_INVALID_DEVICE_ID_NUMBER when device is out of range; QORIN_API_RESULT_ERROR_INVALID_DATA_SIZE
  * when size is out of range.
@@ -569,7 +569,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ecat_io_link_tx_data_get(unsigned int 
 /**
  * The same as qorin_rpc_cbox_master_operational_mode_get() for the control box that was asked last.
  *
- * @param mode  output: a QORIN_OPERATIONAL_MODE value.
+ * @param[out] mode  a QORIN_OPERATIONAL_MODE value.
  * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_cbox_master_operational_mode_get(QORIN_OPERATIONAL_MODE* mode);
@@ -577,8 +577,8 @@ QORIN_API QORIN_API_RESULT qorin_cbox_master_operational_mode_get(QORIN_OPERATIO
 /**
  * The same as qorin_rpc_cbox_name_get() for the control box that was asked last.
  *
- * @param name  output: a QORIN_CBOX_MODEL value; QORIN_CBOX_MODEL_NONE while no system is created, where the control
- * box says so.
+ * @param[out] name  a QORIN_CBOX_MODEL value; QORIN_CBOX_MODEL_NONE while no system is created, where the control box
+ * says so.
  * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_cbox_name_get(QORIN_CBOX_MODEL* name);
@@ -586,7 +586,7 @@ QORIN_API QORIN_API_RESULT qorin_cbox_name_get(QORIN_CBOX_MODEL* name);
 /**
  * The same as qorin_rpc_cbox_emergency_button_state_get() for the control box that was asked last.
  *
- * @param state  output: pushed or released.
+ * @param[out] state  pushed or released.
  * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_cbox_emergency_button_state_get(QORIN_BUTTON_STATE* state);
@@ -594,8 +594,8 @@ QORIN_API QORIN_API_RESULT qorin_cbox_emergency_button_state_get(QORIN_BUTTON_ST
 /**
  * The same as qorin_rpc_cbox_amr_emergency_button_state_get() for the control box that was asked last.
  *
- * @param index  button, 0 to 3.
- * @param state  output: pushed or released.
+ * @param index       button, 0 to 3.
+ * @param[out] state  pushed or released.
  * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_cbox_amr_emergency_button_state_get(unsigned int index, QORIN_BUTTON_STATE* state);
@@ -603,7 +603,7 @@ QORIN_API QORIN_API_RESULT qorin_cbox_amr_emergency_button_state_get(unsigned in
 /**
  * The same as qorin_rpc_cbox_ecat_connection_state_get() for the control box that was asked last.
  *
- * @param state  output: a QORIN_ECAT_CONN_STATE value.
+ * @param[out] state  a QORIN_ECAT_CONN_STATE value.
  * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_cbox_ecat_connection_state_get(QORIN_ECAT_CONN_STATE* state);
@@ -611,7 +611,7 @@ QORIN_API QORIN_API_RESULT qorin_cbox_ecat_connection_state_get(QORIN_ECAT_CONN_
 /**
  * The same as qorin_rpc_cbox_power_button_state_get() for the control box that was asked last.
  *
- * @param state  output: pushed or released.
+ * @param[out] state  pushed or released.
  * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_cbox_power_button_state_get(QORIN_BUTTON_STATE* state);
@@ -621,7 +621,7 @@ QORIN_API QORIN_API_RESULT qorin_cbox_power_button_state_get(QORIN_BUTTON_STATE*
  *
  * @param module  I/O module, 0 for the first. Not bounded: a module that does not exist reads other state.
  * @param channel  channel, 0 to 15.
- * @param value  output: 0 or 1.
+ * @param[out] value  0 or 1.
  * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_gen_cbox_io_digital_input_get(unsigned int module, unsigned int channel,
@@ -631,7 +631,7 @@ QORIN_API QORIN_API_RESULT qorin_gen_cbox_io_digital_input_get(unsigned int modu
  * The same as qorin_rpc_cbox_io_digital_input_get() for the control box that was asked last.
  *
  * @param channel  channel, 0 to 15.
- * @param value  output: 0 or 1.
+ * @param[out] value  0 or 1.
  * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_cbox_io_digital_input_get(unsigned int channel, unsigned int* value);
@@ -641,7 +641,7 @@ QORIN_API QORIN_API_RESULT qorin_cbox_io_digital_input_get(unsigned int channel,
  *
  * @param module  I/O module, 0 for the first. Not bounded: a module that does not exist reads other state.
  * @param channel  channel, 0 to 15.
- * @param value  output: 0 or 1.
+ * @param[out] value  0 or 1.
  * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_gen_cbox_io_digital_output_get(unsigned int module, unsigned int channel,
@@ -651,7 +651,7 @@ QORIN_API QORIN_API_RESULT qorin_gen_cbox_io_digital_output_get(unsigned int mod
  * The same as qorin_rpc_cbox_io_digital_output_get() for the control box that was asked last.
  *
  * @param channel  channel, 0 to 15.
- * @param value  output: 0 or 1.
+ * @param[out] value  0 or 1.
  * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_cbox_io_digital_output_get(unsigned int channel, unsigned int* value);
@@ -661,7 +661,7 @@ QORIN_API QORIN_API_RESULT qorin_cbox_io_digital_output_get(unsigned int channel
  *
  * @param module  I/O module, 0 for the first. Not bounded: a module that does not exist reads other state.
  * @param channel  channel, 0 to 1.
- * @param value  output: value in the control box's unit for the channel's mode.
+ * @param[out] value  value in the control box's unit for the channel's mode.
  * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_gen_cbox_io_analog_input_get(unsigned int module, unsigned int channel, double* value);
@@ -670,7 +670,7 @@ QORIN_API QORIN_API_RESULT qorin_gen_cbox_io_analog_input_get(unsigned int modul
  * The same as qorin_rpc_cbox_io_analog_input_get() for the control box that was asked last.
  *
  * @param channel  channel, 0 to 1.
- * @param value  output: value in the control box's unit for the channel's mode.
+ * @param[out] value  value in the control box's unit for the channel's mode.
  * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_cbox_io_analog_input_get(unsigned int channel, double* value);
@@ -680,7 +680,7 @@ QORIN_API QORIN_API_RESULT qorin_cbox_io_analog_input_get(unsigned int channel, 
  *
  * @param module  I/O module, 0 for the first. Not bounded: a module that does not exist reads other state.
  * @param channel  channel, 0 to 1.
- * @param value  output: value in the control box's unit for the channel's mode.
+ * @param[out] value  value in the control box's unit for the channel's mode.
  * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_gen_cbox_io_analog_output_get(unsigned int module, unsigned int channel,
@@ -690,7 +690,7 @@ QORIN_API QORIN_API_RESULT qorin_gen_cbox_io_analog_output_get(unsigned int modu
  * The same as qorin_rpc_cbox_io_analog_output_get() for the control box that was asked last.
  *
  * @param channel  channel, 0 to 1.
- * @param value  output: value in the control box's unit for the channel's mode.
+ * @param[out] value  value in the control box's unit for the channel's mode.
  * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_cbox_io_analog_output_get(unsigned int channel, double* value);
@@ -700,9 +700,9 @@ QORIN_API QORIN_API_RESULT qorin_cbox_io_analog_output_get(unsigned int channel,
  *
  * @param module  I/O module, 0 for the first. Not bounded: a module that does not exist reads other state.
  * @param channel  channel, 0 to 1.
- * @param mode  output: voltage or current.
- * @param range  neither read nor written: the status mirror holds no range.
- * @param range_value  neither read nor written.
+ * @param[out] mode  voltage or current.
+ * @param[out] range  neither read nor written: the status mirror holds no range.
+ * @param[out] range_value  neither read nor written.
  * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_gen_cbox_io_analog_input_mode_get(unsigned int module, unsigned int channel,
@@ -713,9 +713,9 @@ QORIN_API QORIN_API_RESULT qorin_gen_cbox_io_analog_input_mode_get(unsigned int 
  * The same as qorin_rpc_cbox_io_analog_input_mode_get() for the control box that was asked last.
  *
  * @param channel  channel, 0 to 1.
- * @param mode  output: voltage or current.
- * @param range  neither read nor written: the status mirror holds no range.
- * @param range_value  neither read nor written.
+ * @param[out] mode  voltage or current.
+ * @param[out] range  neither read nor written: the status mirror holds no range.
+ * @param[out] range_value  neither read nor written.
  * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_cbox_io_analog_input_mode_get(unsigned int channel, QORIN_ANALOG_IO_MODE* mode,
@@ -726,9 +726,9 @@ QORIN_API QORIN_API_RESULT qorin_cbox_io_analog_input_mode_get(unsigned int chan
  *
  * @param module  I/O module, 0 for the first. Not bounded: a module that does not exist reads other state.
  * @param channel  channel, 0 to 1.
- * @param mode  output: voltage or current.
- * @param range  neither read nor written: the status mirror holds no range.
- * @param range_value  neither read nor written.
+ * @param[out] mode  voltage or current.
+ * @param[out] range  neither read nor written: the status mirror holds no range.
+ * @param[out] range_value  neither read nor written.
  * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_gen_cbox_io_analog_output_mode_get(unsigned int module, unsigned int channel,
@@ -739,9 +739,9 @@ QORIN_API QORIN_API_RESULT qorin_gen_cbox_io_analog_output_mode_get(unsigned int
  * The same as qorin_rpc_cbox_io_analog_output_mode_get() for the control box that was asked last.
  *
  * @param channel  channel, 0 to 1.
- * @param mode  output: voltage or current.
- * @param range  neither read nor written: the status mirror holds no range.
- * @param range_value  neither read nor written.
+ * @param[out] mode  voltage or current.
+ * @param[out] range  neither read nor written: the status mirror holds no range.
+ * @param[out] range_value  neither read nor written.
  * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_cbox_io_analog_output_mode_get(unsigned int channel, QORIN_ANALOG_IO_MODE* mode,
@@ -752,7 +752,7 @@ QORIN_API QORIN_API_RESULT qorin_cbox_io_analog_output_mode_get(unsigned int cha
  *
  * @param module  I/O module, 0 for the first. Not bounded: a module that does not exist reads other state.
  * @param channel  channel, 0 to 15.
- * @param value  output: 0 or 1.
+ * @param[out] value  0 or 1.
  * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_gen_cbox_redundant_io_digital_input_get(unsigned int module, unsigned int channel,
@@ -762,7 +762,7 @@ QORIN_API QORIN_API_RESULT qorin_gen_cbox_redundant_io_digital_input_get(unsigne
  * The same as qorin_rpc_cbox_redundant_io_digital_input_get() for the control box that was asked last.
  *
  * @param channel  channel, 0 to 15.
- * @param value  output: 0 or 1.
+ * @param[out] value  0 or 1.
  * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_cbox_redundant_io_digital_input_get(unsigned int channel, unsigned int* value);
@@ -772,7 +772,7 @@ QORIN_API QORIN_API_RESULT qorin_cbox_redundant_io_digital_input_get(unsigned in
  *
  * @param module  I/O module, 0 for the first. Not bounded: a module that does not exist reads other state.
  * @param channel  channel, 0 to 15.
- * @param value  output: 0 or 1.
+ * @param[out] value  0 or 1.
  * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_gen_cbox_redundant_io_digital_output_get(unsigned int module, unsigned int channel,
@@ -782,7 +782,7 @@ QORIN_API QORIN_API_RESULT qorin_gen_cbox_redundant_io_digital_output_get(unsign
  * The same as qorin_rpc_cbox_redundant_io_digital_output_get() for the control box that was asked last.
  *
  * @param channel  channel, 0 to 15.
- * @param value  output: 0 or 1.
+ * @param[out] value  0 or 1.
  * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_cbox_redundant_io_digital_output_get(unsigned int channel, unsigned int* value);
@@ -792,7 +792,7 @@ QORIN_API QORIN_API_RESULT qorin_cbox_redundant_io_digital_output_get(unsigned i
  *
  * @param module  I/O module, 0 for the first. Not bounded: a module that does not exist reads other state.
  * @param input  QORIN_FSOE_RESET_INPUT to QORIN_FSOE_REAR_OSSD_B_INPUT.
- * @param value  output: 0 or 1.
+ * @param[out] value  0 or 1.
  * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_gen_cbox_fsoe_io_digital_input_get(unsigned int module, QORIN_FSOE_IO_INPUT_DATA input,
@@ -803,7 +803,7 @@ QORIN_API QORIN_API_RESULT qorin_gen_cbox_fsoe_io_digital_input_get(unsigned int
  *
  * @param module  I/O module, 0 for the first. Not bounded: a module that does not exist reads other state.
  * @param output  QORIN_FSOE_MC3_POWER_OUTPUT, the only one.
- * @param value  output: 0 or 1.
+ * @param[out] value  0 or 1.
  * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_gen_cbox_fsoe_io_digital_output_get(unsigned int module,
@@ -813,8 +813,8 @@ QORIN_API QORIN_API_RESULT qorin_gen_cbox_fsoe_io_digital_output_get(unsigned in
 /**
  * The same as qorin_rpc_cbox_safety_module_redundant_io_digital_input_get() for the control box that was asked last.
  *
- * @param index  input, 0 to 7.
- * @param value  output: 0 or 1.
+ * @param index       input, 0 to 7.
+ * @param[out] value  0 or 1.
  * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_cbox_safety_module_redundant_io_digital_input_get(unsigned int index,
@@ -823,7 +823,7 @@ QORIN_API QORIN_API_RESULT qorin_cbox_safety_module_redundant_io_digital_input_g
 /**
  * The same as qorin_rpc_cbox_safety_module_48v_smps_switch_get() for the control box that was asked last.
  *
- * @param smps_switch  output: QORIN_SWITCH_ON or QORIN_SWITCH_OFF.
+ * @param[out] smps_switch  QORIN_SWITCH_ON or QORIN_SWITCH_OFF.
  * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_cbox_safety_module_48v_smps_switch_get(QORIN_SWITCH* smps_switch);
@@ -833,7 +833,7 @@ QORIN_API QORIN_API_RESULT qorin_cbox_safety_module_48v_smps_switch_get(QORIN_SW
  *
  * @param device  low-data EtherCAT device, 0 to 3.
  * @param size  number of bytes, 0 to 32.
- * @param data  output: `size` bytes.
+ * @param[out] data  [size] `size` bytes.
  * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_cbox_ecat_low_data_io_rx_data_get(unsigned int device, unsigned int size,
@@ -844,7 +844,7 @@ QORIN_API QORIN_API_RESULT qorin_cbox_ecat_low_data_io_rx_data_get(unsigned int 
  *
  * @param device  low-data EtherCAT device, 0 to 3.
  * @param size  number of bytes, 0 to 32.
- * @param data  output: `size` bytes.
+ * @param[out] data  [size] `size` bytes.
  * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_cbox_ecat_low_data_io_tx_data_get(unsigned int device, unsigned int size,
@@ -853,9 +853,9 @@ QORIN_API QORIN_API_RESULT qorin_cbox_ecat_low_data_io_tx_data_get(unsigned int 
 /**
  * The same as qorin_rpc_cbox_ecat_io_link_wp_rx_data_get() for the control box that was asked last.
  *
- * @param port  IO-Link wireless port, 0 to 15.
- * @param size  number of bytes, 0 to 32.
- * @param data  output: `size` bytes.
+ * @param port       IO-Link wireless port, 0 to 15.
+ * @param size       number of bytes, 0 to 32.
+ * @param[out] data  [size] `size` bytes.
  * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_cbox_ecat_io_link_wp_rx_data_get(unsigned int port, unsigned int size,
@@ -864,9 +864,9 @@ QORIN_API QORIN_API_RESULT qorin_cbox_ecat_io_link_wp_rx_data_get(unsigned int p
 /**
  * The same as qorin_rpc_cbox_ecat_io_link_wp_tx_data_get() for the control box that was asked last.
  *
- * @param port  IO-Link wireless port, 0 to 15.
- * @param size  number of bytes, 0 to 32.
- * @param data  output: `size` bytes.
+ * @param port       IO-Link wireless port, 0 to 15.
+ * @param size       number of bytes, 0 to 32.
+ * @param[out] data  [size] `size` bytes.
  * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_cbox_ecat_io_link_wp_tx_data_get(unsigned int port, unsigned int size,
@@ -876,7 +876,7 @@ QORIN_API QORIN_API_RESULT qorin_cbox_ecat_io_link_wp_tx_data_get(unsigned int p
  * The same as qorin_rpc_cbox_ecat_io_link_wp_status_data_get() for the control box that was asked last.
  *
  * @param port  IO-Link wireless port, 0 to 15.
- * @param status  output: state byte of the port.
+ * @param[out] status  state byte of the port.
  * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_cbox_ecat_io_link_wp_status_data_get(unsigned int port, unsigned char* status);
@@ -885,7 +885,7 @@ QORIN_API QORIN_API_RESULT qorin_cbox_ecat_io_link_wp_status_data_get(unsigned i
  * The same as qorin_rpc_cbox_ecat_io_link_status_bit_data_get() for the control box that was asked last.
  *
  * @param device  IO-Link master, 0.
- * @param bits  output: status bits.
+ * @param[out] bits  status bits.
  * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_cbox_ecat_io_link_status_bit_data_get(unsigned int device, unsigned short* bits);
@@ -894,7 +894,7 @@ QORIN_API QORIN_API_RESULT qorin_cbox_ecat_io_link_status_bit_data_get(unsigned 
  * The same as qorin_rpc_cbox_ecat_io_link_control_bit_get() for the control box that was asked last.
  *
  * @param device  IO-Link master, 0.
- * @param bits  output: control bits.
+ * @param[out] bits  control bits.
  * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_cbox_ecat_io_link_control_bit_get(unsigned int device, unsigned short* bits);
@@ -903,7 +903,7 @@ QORIN_API QORIN_API_RESULT qorin_cbox_ecat_io_link_control_bit_get(unsigned int 
  * The same as qorin_rpc_cbox_ecat_io_link_input_bit_get() for the control box that was asked last.
  *
  * @param device  IO-Link master, 0.
- * @param bits  output: input bits.
+ * @param[out] bits  input bits.
  * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_cbox_ecat_io_link_input_bit_get(unsigned int device, unsigned short* bits);
@@ -912,7 +912,7 @@ QORIN_API QORIN_API_RESULT qorin_cbox_ecat_io_link_input_bit_get(unsigned int de
  * The same as qorin_rpc_cbox_ecat_io_link_output_bit_get() for the control box that was asked last.
  *
  * @param device  IO-Link master, 0.
- * @param bits  output: output bits.
+ * @param[out] bits  bits of the outputs, all in one number.
  * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_cbox_ecat_io_link_output_bit_get(unsigned int device, unsigned short* bits);
@@ -922,7 +922,7 @@ QORIN_API QORIN_API_RESULT qorin_cbox_ecat_io_link_output_bit_get(unsigned int d
  *
  * @param device  IO-Link master, 0.
  * @param size  number of bytes, 0 to 64.
- * @param data  output: `size` bytes.
+ * @param[out] data  [size] `size` bytes.
  * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_cbox_ecat_io_link_rx_data_get(unsigned int device, unsigned int size,
@@ -933,7 +933,7 @@ QORIN_API QORIN_API_RESULT qorin_cbox_ecat_io_link_rx_data_get(unsigned int devi
  *
  * @param device  IO-Link master, 0.
  * @param size  number of bytes, 0 to 64.
- * @param data  output: `size` bytes.
+ * @param[out] data  [size] `size` bytes.
  * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_cbox_ecat_io_link_tx_data_get(unsigned int device, unsigned int size,

@@ -10,7 +10,7 @@
  * const char force[128] = "press.force";
  * const char address[128] = "127.0.0.1";
  * unsigned short registers[64] = {0}; // an output of this family gets 4 bytes, and 128 are read from it
- * qorin_rpc_cbox_ext_modbus_client_create(cbox_id, press, address, 502, address, 0);
+ * qorin_rpc_cbox_ext_modbus_client_create(cbox_id, press, address, 502, address, 0); // as the simulated box takes them
  * qorin_rpc_cbox_ext_modbus_client_io_create(cbox_id, force, QORIN_MODBUS_CLIENT_IO_TYPE_REGISTER_INPUT, 0, 2, press);
  * qorin_rpc_cbox_ext_modbus_client_io_start(cbox_id, force, QORIN_MODBUS_CLIENT_IO_UPDATE_HZ_10);
  * qorin_rpc_cbox_ext_modbus_client_register_io_get(cbox_id, force, 0, registers);
@@ -41,9 +41,9 @@ QORIN_API_C_BEGIN
  * Sets bits of the local area.
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
- * @param value_1  first number of the place; the control box defines it.
- * @param value_2  second number of the place.
- * @param bits     bits, one a byte; 128 bytes are read.
+ * @param value_1  first of two numbers that name the place; the control box defines them.
+ * @param value_2  second of these.
+ * @param bits     [128] bits; 128 bytes are read, and how bits lie in them the control box defines.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_modbus_local_bit_set(unsigned int cbox_id, unsigned int value_1,
@@ -52,10 +52,10 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_modbus_local_bit_set(unsigned int 
 /**
  * Asks for bits of the local area.
  *
- * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
- * @param value_1  first number of the place; the control box defines it.
- * @param value_2  second number of the place.
- * @param bits     output: 4 bytes; needs room for 4 bytes.
+ * @param cbox_id    control box id from qorin_rpc_system_cbox_connect().
+ * @param value_1    first of two numbers that name the place; the control box defines them.
+ * @param value_2    second of these.
+ * @param[out] bits  [4] 4 bytes, and room for them; how they are to be read, the control box defines.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_modbus_local_bit_get(unsigned int cbox_id, unsigned int value_1,
@@ -65,9 +65,9 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_modbus_local_bit_get(unsigned int 
  * Sets registers of the local area.
  *
  * @param cbox_id    control box id from qorin_rpc_system_cbox_connect().
- * @param value_1    first number of the place; the control box defines it.
- * @param value_2    second number of the place.
- * @param registers  registers; 64 are read.
+ * @param value_1    first of two numbers that name the place; the control box defines them.
+ * @param value_2    second of these.
+ * @param registers  [64] registers; 64 are read.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_modbus_local_register_set(unsigned int cbox_id, unsigned int value_1,
@@ -77,10 +77,10 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_modbus_local_register_set(unsigned
 /**
  * Asks for registers of the local area.
  *
- * @param cbox_id    control box id from qorin_rpc_system_cbox_connect().
- * @param value_1    first number of the place; the control box defines it.
- * @param value_2    second number of the place.
- * @param registers  output: 2 registers; needs room for 4 bytes.
+ * @param cbox_id         control box id from qorin_rpc_system_cbox_connect().
+ * @param value_1         first of two numbers that name the place; the control box defines them.
+ * @param value_2         second of these.
+ * @param[out] registers  [2] 4 bytes, that is 2 registers; needs room for both.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_modbus_local_register_get(unsigned int cbox_id, unsigned int value_1,
@@ -94,7 +94,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_modbus_local_register_get(unsigned
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param address  text for the control box, which defines its meaning; 128 bytes are read.
- * @param port     port.
+ * @param port     TCP port to serve.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_modbus_server_start(unsigned int cbox_id, const char* address,
@@ -116,9 +116,9 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_modbus_server_stop(unsigned int cb
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param name     name of the client; 128 bytes are read.
  * @param text_1   text for the control box, which defines its meaning; 128 bytes are read.
- * @param value_1  number for the control box.
+ * @param value_1  first of two numbers for the control box.
  * @param text_2   second text; 128 bytes are read.
- * @param value_2  second number.
+ * @param value_2  second of these.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_modbus_client_create(unsigned int cbox_id, const char* name,
@@ -137,9 +137,9 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_modbus_client_destroy(unsigned int
 /**
  * Asks for the status of a Modbus client.
  *
- * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
- * @param name     name of the client; 128 bytes are read.
- * @param status   output: a QORIN_MODBUS_CLIENT_STATUS value.
+ * @param cbox_id      control box id from qorin_rpc_system_cbox_connect().
+ * @param name         name of the client; 128 bytes are read.
+ * @param[out] status  a QORIN_MODBUS_CLIENT_STATUS value.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_modbus_client_status_get(unsigned int cbox_id, const char* name,
@@ -159,9 +159,9 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_modbus_client_seq_mode_switch_set(
 /**
  * Asks for the sequential mode of a Modbus client.
  *
- * @param cbox_id     control box id from qorin_rpc_system_cbox_connect().
- * @param name        name of the client; 128 bytes are read.
- * @param sequential  output: on or off.
+ * @param cbox_id          control box id from qorin_rpc_system_cbox_connect().
+ * @param name             name of the client; 128 bytes are read.
+ * @param[out] sequential  on or off.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_modbus_client_seq_mode_switch_get(unsigned int cbox_id, const char* name,
@@ -175,8 +175,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_modbus_client_seq_mode_switch_get(
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param name     name of the I/O point; 128 bytes are read.
  * @param type     what is read or written.
- * @param value_1  first number; the control box defines it.
- * @param value_2  second number.
+ * @param value_1  first of two numbers for the control box, which defines them.
+ * @param value_2  second of these.
  * @param text     text for the control box, which defines its meaning; 128 bytes are read.
  * @return as every command.
  */
@@ -217,9 +217,9 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_modbus_client_io_stop(unsigned int
 /**
  * Asks for the type of an I/O point.
  *
- * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
- * @param name     name of the I/O point; 128 bytes are read.
- * @param type     output: what is read or written.
+ * @param cbox_id    control box id from qorin_rpc_system_cbox_connect().
+ * @param name       name of the I/O point; 128 bytes are read.
+ * @param[out] type  what is read or written.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_modbus_client_io_type_get(unsigned int cbox_id, const char* name,
@@ -228,10 +228,10 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_modbus_client_io_type_get(unsigned
 /**
  * Asks for the status of an I/O point.
  *
- * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
- * @param name     name of the I/O point; 128 bytes are read.
- * @param status   output: a QORIN_MODBUS_CLIENT_IO_STATUS value.
- * @param value    output: a number whose meaning the control box defines.
+ * @param cbox_id      control box id from qorin_rpc_system_cbox_connect().
+ * @param name         name of the I/O point; 128 bytes are read.
+ * @param[out] status  a QORIN_MODBUS_CLIENT_IO_STATUS value.
+ * @param[out] value   a number whose meaning the control box defines.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_modbus_client_io_status_get(unsigned int cbox_id, const char* name,
@@ -241,10 +241,10 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_modbus_client_io_status_get(unsign
 /**
  * Asks for bits of an I/O point.
  *
- * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
- * @param name     name of the I/O point; 128 bytes are read.
- * @param address  place within the point.
- * @param bits     output: 4 bytes; needs room for 4 bytes.
+ * @param cbox_id    control box id from qorin_rpc_system_cbox_connect().
+ * @param name       name of the I/O point; 128 bytes are read.
+ * @param address    place within the point.
+ * @param[out] bits  [4] 4 bytes, and room for them; how they are to be read, the control box defines.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_modbus_client_bit_io_get(unsigned int cbox_id, const char* name,
@@ -256,7 +256,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_modbus_client_bit_io_get(unsigned 
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param name     name of the I/O point; 128 bytes are read.
  * @param address  place within the point.
- * @param bits     bits, one a byte; 128 bytes are read.
+ * @param bits     [128] bits; 128 bytes are read, and how bits lie in them the control box defines.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_modbus_client_bit_io_set(unsigned int cbox_id, const char* name,
@@ -265,10 +265,10 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_modbus_client_bit_io_set(unsigned 
 /**
  * Asks for registers of an I/O point.
  *
- * @param cbox_id    control box id from qorin_rpc_system_cbox_connect().
- * @param name       name of the I/O point; 128 bytes are read.
- * @param address    place within the point.
- * @param registers  output: 2 registers; needs room for 4 bytes.
+ * @param cbox_id         control box id from qorin_rpc_system_cbox_connect().
+ * @param name            name of the I/O point; 128 bytes are read.
+ * @param address         place within the point.
+ * @param[out] registers  [2] 4 bytes, that is 2 registers; needs room for both.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_modbus_client_register_io_get(unsigned int cbox_id, const char* name,
@@ -281,7 +281,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_modbus_client_register_io_get(unsi
  * @param cbox_id    control box id from qorin_rpc_system_cbox_connect().
  * @param name       name of the I/O point; 128 bytes are read.
  * @param address    place within the point.
- * @param registers  registers; 64 are read.
+ * @param registers  [64] registers; 64 are read.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_modbus_client_register_io_set(unsigned int cbox_id, const char* name,
@@ -291,9 +291,9 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_modbus_client_register_io_set(unsi
 /**
  * As qorin_rpc_cbox_ext_modbus_client_io_type_get(), by a command of its own.
  *
- * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
- * @param name     name of the I/O point; 128 bytes are read.
- * @param type     output: what is read or written.
+ * @param cbox_id    control box id from qorin_rpc_system_cbox_connect().
+ * @param name       name of the I/O point; 128 bytes are read.
+ * @param[out] type  what is read or written.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_modbus_client_io_type_get(unsigned int cbox_id, const char* name,
@@ -302,9 +302,9 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_modbus_client_io_type_get(unsigned int
 /**
  * As qorin_rpc_cbox_ext_modbus_client_io_status_get(), by a command of its own and without its number.
  *
- * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
- * @param name     name of the I/O point; 128 bytes are read.
- * @param status   output: a QORIN_MODBUS_CLIENT_IO_STATUS value.
+ * @param cbox_id      control box id from qorin_rpc_system_cbox_connect().
+ * @param name         name of the I/O point; 128 bytes are read.
+ * @param[out] status  a QORIN_MODBUS_CLIENT_IO_STATUS value.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_modbus_client_io_status_get(unsigned int cbox_id, const char* name,
@@ -313,10 +313,10 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_modbus_client_io_status_get(unsigned i
 /**
  * As qorin_rpc_cbox_ext_modbus_client_bit_io_get(), by a command of its own.
  *
- * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
- * @param name     name of the I/O point; 128 bytes are read.
- * @param address  place within the point.
- * @param bits     output: 4 bytes; needs room for 4 bytes.
+ * @param cbox_id    control box id from qorin_rpc_system_cbox_connect().
+ * @param name       name of the I/O point; 128 bytes are read.
+ * @param address    place within the point.
+ * @param[out] bits  [4] 4 bytes, and room for them; how they are to be read, the control box defines.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_modbus_client_bit_io_get(unsigned int cbox_id, const char* name,
@@ -325,10 +325,10 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_modbus_client_bit_io_get(unsigned int 
 /**
  * As qorin_rpc_cbox_ext_modbus_client_register_io_get(), by a command of its own.
  *
- * @param cbox_id    control box id from qorin_rpc_system_cbox_connect().
- * @param name       name of the I/O point; 128 bytes are read.
- * @param address    place within the point.
- * @param registers  output: 2 registers; needs room for 4 bytes.
+ * @param cbox_id         control box id from qorin_rpc_system_cbox_connect().
+ * @param name            name of the I/O point; 128 bytes are read.
+ * @param address         place within the point.
+ * @param[out] registers  [2] 4 bytes, that is 2 registers; needs room for both.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_modbus_client_register_io_get(unsigned int cbox_id, const char* name,
@@ -359,8 +359,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_eip_adaptor_stop(unsigned int cbox
 /**
  * Asks for the status of the EtherNet/IP adaptor.
  *
- * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
- * @param status   output: a QORIN_LED_STATE value.
+ * @param cbox_id      control box id from qorin_rpc_system_cbox_connect().
+ * @param[out] status  a QORIN_LED_STATE value.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_eip_adaptor_status(unsigned int cbox_id, QORIN_LED_STATE* status);
@@ -389,8 +389,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_eip_scanner_stop(unsigned int cbox
 /**
  * Asks for the status of the EtherNet/IP scanner.
  *
- * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
- * @param status   output: a QORIN_LED_STATE value.
+ * @param cbox_id      control box id from qorin_rpc_system_cbox_connect().
+ * @param[out] status  a QORIN_LED_STATE value.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_eip_scanner_status(unsigned int cbox_id, QORIN_LED_STATE* status);
@@ -398,9 +398,9 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_eip_scanner_status(unsigned int cb
 /**
  * Asks for what the scanner has received.
  *
- * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
- * @param value    number for the control box.
- * @param data     output: 4 bytes; needs room for 4 bytes.
+ * @param cbox_id    control box id from qorin_rpc_system_cbox_connect().
+ * @param value      number for the control box.
+ * @param[out] data  [4] 4 bytes, and room for them; how they are to be read, the control box defines.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_eip_scanner_rx_data_get(unsigned int cbox_id, unsigned int value,
@@ -409,9 +409,9 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_eip_scanner_rx_data_get(unsigned i
 /**
  * Asks for what the scanner sends.
  *
- * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
- * @param value    number for the control box.
- * @param data     output: 4 bytes; needs room for 4 bytes.
+ * @param cbox_id    control box id from qorin_rpc_system_cbox_connect().
+ * @param value      number for the control box.
+ * @param[out] data  [4] 4 bytes, and room for them; how they are to be read, the control box defines.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_eip_scanner_tx_data_get(unsigned int cbox_id, unsigned int value,
@@ -422,7 +422,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_eip_scanner_tx_data_get(unsigned i
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param value    number for the control box.
- * @param data     bytes; 128 are read.
+ * @param data     [128] bytes; 128 are read.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_eip_scanner_tx_data_set(unsigned int cbox_id, unsigned int value,
@@ -435,10 +435,10 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_eip_scanner_tx_data_set(unsigned i
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param text_1   text for the control box, which defines its meaning; 128 bytes are read.
- * @param value_1  number for the control box.
+ * @param value_1  first of three numbers for the control box.
  * @param text_2   second text; 128 bytes are read.
- * @param value_2  second number.
- * @param value_3  third number.
+ * @param value_2  second of these.
+ * @param value_3  third of these.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_rdm_start(unsigned int cbox_id, const char* text_1,
@@ -459,8 +459,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_rdm_stop(unsigned int cbox_id);
  * Sets a bit register of the outputs.
  *
  * @param cbox_id          control box id from qorin_rpc_system_cbox_connect().
- * @param register_number  number of the register.
- * @param value            value.
+ * @param register_number  which register; the control box defines how many there are.
+ * @param value            what the register holds from then on.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_output_bit_register_set(unsigned int cbox_id,
@@ -471,8 +471,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_output_bit_register_set(unsigned i
  * Sets an integer register of the outputs.
  *
  * @param cbox_id          control box id from qorin_rpc_system_cbox_connect().
- * @param register_number  number of the register.
- * @param value            value.
+ * @param register_number  which register; the control box defines how many there are.
+ * @param value            what the register holds from then on.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_output_int_register_set(unsigned int cbox_id,
@@ -483,8 +483,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_output_int_register_set(unsigned i
  * Sets a float register of the outputs.
  *
  * @param cbox_id          control box id from qorin_rpc_system_cbox_connect().
- * @param register_number  number of the register.
- * @param value            value.
+ * @param register_number  which register; the control box defines how many there are.
+ * @param value            what the register holds from then on.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_output_float_register_set(unsigned int cbox_id,
@@ -494,8 +494,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_output_float_register_set(unsigned
  * Asks for a bit register of the outputs.
  *
  * @param cbox_id          control box id from qorin_rpc_system_cbox_connect().
- * @param register_number  number of the register.
- * @param value            output: value; 0 when the control box has none to answer.
+ * @param register_number  which register; the control box defines how many there are.
+ * @param[out] value       value; 0 when the control box has none to answer.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_output_bit_register_get(unsigned int cbox_id,
@@ -506,8 +506,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_output_bit_register_get(unsigned i
  * Asks for an integer register of the outputs.
  *
  * @param cbox_id          control box id from qorin_rpc_system_cbox_connect().
- * @param register_number  number of the register.
- * @param value            output: value; 0 when the control box has none to answer.
+ * @param register_number  which register; the control box defines how many there are.
+ * @param[out] value       value; 0 when the control box has none to answer.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_output_int_register_get(unsigned int cbox_id,
@@ -518,8 +518,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_output_int_register_get(unsigned i
  * Asks for a float register of the outputs.
  *
  * @param cbox_id          control box id from qorin_rpc_system_cbox_connect().
- * @param register_number  number of the register.
- * @param value            output: value; 0 when the control box has none to answer.
+ * @param register_number  which register; the control box defines how many there are.
+ * @param[out] value       value; 0 when the control box has none to answer.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_output_float_register_get(unsigned int cbox_id,
@@ -529,8 +529,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_output_float_register_get(unsigned
  * Asks for a bit register of the inputs.
  *
  * @param cbox_id          control box id from qorin_rpc_system_cbox_connect().
- * @param register_number  number of the register.
- * @param value            output: value; 0 when the control box has none to answer.
+ * @param register_number  which register; the control box defines how many there are.
+ * @param[out] value       value; 0 when the control box has none to answer.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_input_bit_register_get(unsigned int cbox_id,
@@ -541,8 +541,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_input_bit_register_get(unsigned in
  * Asks for an integer register of the inputs.
  *
  * @param cbox_id          control box id from qorin_rpc_system_cbox_connect().
- * @param register_number  number of the register.
- * @param value            output: value; 0 when the control box has none to answer.
+ * @param register_number  which register; the control box defines how many there are.
+ * @param[out] value       value; 0 when the control box has none to answer.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_input_int_register_get(unsigned int cbox_id,
@@ -553,8 +553,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_input_int_register_get(unsigned in
  * Asks for a float register of the inputs.
  *
  * @param cbox_id          control box id from qorin_rpc_system_cbox_connect().
- * @param register_number  number of the register.
- * @param value            output: value; 0 when the control box has none to answer.
+ * @param register_number  which register; the control box defines how many there are.
+ * @param[out] value       value; 0 when the control box has none to answer.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_input_float_register_get(unsigned int cbox_id,
@@ -567,8 +567,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ext_input_float_register_get(unsigned 
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param device   device, 0 for the first.
- * @param value    second number of the place; the control box defines it.
- * @param data     bytes to send; 128 are read.
+ * @param value    a number whose meaning the control box defines.
+ * @param data     [128] bytes to send; 128 are read.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ecat_io_link_tx_data_set(unsigned int cbox_id, unsigned int device,
@@ -579,8 +579,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ecat_io_link_tx_data_set(unsigned int 
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param port     wireless port, 0 for the first.
- * @param value    second number of the place; the control box defines it.
- * @param data     bytes to send; 128 are read.
+ * @param value    a number whose meaning the control box defines.
+ * @param data     [128] bytes to send; 128 are read.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ecat_io_link_wp_tx_data_set(unsigned int cbox_id, unsigned int port,
@@ -591,8 +591,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ecat_io_link_wp_tx_data_set(unsigned i
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param device   device, 0 for the first.
- * @param value    second number of the place; the control box defines it.
- * @param data     bytes to send; 128 are read.
+ * @param value    a number whose meaning the control box defines.
+ * @param data     [128] bytes to send; 128 are read.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ecat_low_data_io_tx_data_set(unsigned int cbox_id, unsigned int device,
@@ -603,7 +603,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ecat_low_data_io_tx_data_set(unsigned 
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param device   device, 0 for the first.
- * @param bits     control bits; 64 words of 16 bits are read.
+ * @param bits     [64] control bits; 64 words of 16 bits are read.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ecat_io_link_control_bit_set(unsigned int cbox_id, unsigned int device,
@@ -614,7 +614,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ecat_io_link_control_bit_set(unsigned 
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param device   device, 0 for the first.
- * @param bits     output bits; 64 words of 16 bits are read.
+ * @param bits     [64] output bits; 64 words of 16 bits are read.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_ecat_io_link_output_bit_set(unsigned int cbox_id, unsigned int device,

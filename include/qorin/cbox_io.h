@@ -102,8 +102,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_io_digital_output_set(unsigned int cbo
  *
  * @param cbox_id   control box id from qorin_rpc_system_cbox_connect().
  * @param count     number of channels; no more than 32 travel.
- * @param channels  channel numbers; 32 numbers are read whatever the count says.
- * @param values    0 or 1 for each channel; 32 numbers are read.
+ * @param channels  [count] channel numbers; 32 numbers are read whatever the count says.
+ * @param values    [count] 0 or 1 for each channel; 32 numbers are read.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_io_digital_output_multiple_set(unsigned int cbox_id, unsigned int count,
@@ -169,8 +169,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_gen_cbox_io_digital_output_set(unsigned int
  * @param cbox_id   control box id from qorin_rpc_system_cbox_connect().
  * @param module    I/O module, 0 for the first.
  * @param count     number of channels; no more than 32 travel.
- * @param channels  channel numbers; 32 numbers are read whatever the count says.
- * @param values    0 or 1 for each channel; 32 numbers are read.
+ * @param channels  [count] channel numbers; 32 numbers are read whatever the count says.
+ * @param values    [count] 0 or 1 for each channel; 32 numbers are read.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_gen_cbox_io_digital_output_multiple_set(unsigned int cbox_id, unsigned int module,
@@ -240,8 +240,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_gen_cbox_fsoe_io_digital_output_set(unsigne
  *
  * @param cbox_id   control box id from qorin_rpc_system_cbox_connect().
  * @param value_1   first of three numbers that name the channels; the control box defines them.
- * @param value_2   second number.
- * @param value_3   third number.
+ * @param value_2   second of these.
+ * @param value_3   third of these.
  * @param function  what the channels stand for.
  * @return as every command.
  */
@@ -254,8 +254,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_io_redundant_in_set(unsigned int cbox_
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param value_1  first of three numbers that name the channels; the control box defines them.
- * @param value_2  second number.
- * @param value_3  third number.
+ * @param value_2  second of these.
+ * @param value_3  third of these.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_io_redundant_in_remove(unsigned int cbox_id, unsigned int value_1,
@@ -275,8 +275,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_io_redundant_in_remove_all(unsigned in
  *
  * @param cbox_id   control box id from qorin_rpc_system_cbox_connect().
  * @param value_1   first of three numbers that name the channels; the control box defines them.
- * @param value_2   second number.
- * @param value_3   third number.
+ * @param value_2   second of these.
+ * @param value_3   third of these.
  * @param function  what the channels stand for.
  * @return as every command.
  */
@@ -289,8 +289,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_io_redundant_out_set(unsigned int cbox
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param value_1  first of three numbers that name the channels; the control box defines them.
- * @param value_2  second number.
- * @param value_3  third number.
+ * @param value_2  second of these.
+ * @param value_3  third of these.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_io_redundant_out_remove(unsigned int cbox_id, unsigned int value_1,
@@ -310,8 +310,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_io_redundant_out_remove_all(unsigned i
  *
  * @param cbox_id   control box id from qorin_rpc_system_cbox_connect().
  * @param value_1   first of three numbers that name the channels; the control box defines them.
- * @param value_2   second number.
- * @param value_3   third number.
+ * @param value_2   second of these.
+ * @param value_3   third of these.
  * @param function  what the channels stand for.
  * @return as every command.
  */
@@ -324,8 +324,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_cbox_safety_module_io_redundant_in_set(unsi
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param value_1  first of three numbers that name the channels; the control box defines them.
- * @param value_2  second number.
- * @param value_3  third number.
+ * @param value_2  second of these.
+ * @param value_3  third of these.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_cbox_safety_module_io_redundant_in_remove(unsigned int cbox_id,

@@ -10,14 +10,21 @@
  * registered in several places is called several times for one event. Events end without notice when the event link or
  * the data link is lost.
  *
+ * The line in the event log is written and flushed ahead of the callbacks, as fast as events come. Log files change
+ * with the number of calls alone, so that an application which does nothing but listen fills one file without end: it
+ * should keep an eye on it, or send a command now and then.
+ *
  * The dispatcher is locked while callbacks run. So a callback
  *   - must return soon: no further event comes through, and waits and registrations of other threads stand still;
+ *   - must not throw: an exception that leaves it ends the process;
  *   - must not call a function of this header for its own control box, except qorin_rpc_ts_event_echo(): it would block
  *     for ever;
  *   - may send commands, which wait for the call lock like any other. But while a callback does, no other thread may
  *     register or remove callbacks of the same control box: a registration holds the call lock while it waits for the
  *     dispatcher, and the two would wait for each other for ever. Register before the events begin, or let the callback
  *     hand its work to a thread of the application.
+ *
+ * Callbacks run with all signals blocked, which programs that they start inherit.
  *
  * A registration with an unknown cbox_id is no error: it answers QORIN_API_RESULT_OK and registers nothing. What a
  * subgroup callback gets depends on the subgroup alone; waits compare group and subgroup together.
@@ -88,7 +95,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_system_event_group_callback_add(unsigned in
  *
  * @param cbox_id   control box id from qorin_rpc_system_cbox_connect().
  * @param callback  not looked at; it shows in the call line.
- * @param group     group whose list loses its first callback.
+ * @param group     group whose list loses its first callback, a QORIN_EVENT_GRP value.
  * @return QORIN_API_RESULT_OK, also for an unknown cbox_id and an empty list.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_system_event_group_callback_remove(unsigned int cbox_id,
@@ -120,7 +127,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_system_event_group_subgroup_callback_add(un
  * @param cbox_id   control box id from qorin_rpc_system_cbox_connect().
  * @param callback  not looked at; it shows in the call line.
  * @param group     shows in the call line only.
- * @param subgroup  subgroup whose list loses its first callback.
+ * @param subgroup  subgroup whose list loses its first callback, a QORIN_EVENT_SUBGRP value.
  * @return QORIN_API_RESULT_OK, also for an unknown cbox_id and an empty list.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_system_event_group_subgroup_callback_remove(unsigned int cbox_id,
@@ -136,11 +143,11 @@ QORIN_API QORIN_API_RESULT qorin_rpc_system_event_group_subgroup_callback_remove
  * writes no line, so other threads go on commanding; stands still while a callback runs. Any number of threads may
  * wait.
  *
- * @param cbox_id   control box id from qorin_rpc_system_cbox_connect().
- * @param group     group to wait for.
- * @param time_out  milliseconds.
- * @param remove    not 0: the event is taken out of the queue, so that one waiter alone gets it.
- * @param occurred  output, one byte: 1 when a matching event was found, 0 when the time ran out. Not null.
+ * @param cbox_id        control box id from qorin_rpc_system_cbox_connect().
+ * @param group          group to wait for, a QORIN_EVENT_GRP value.
+ * @param time_out       milliseconds.
+ * @param remove         not 0: the event is taken out of the queue, so that one waiter alone gets it.
+ * @param[out] occurred  one byte: 1 when a matching event was found, 0 when the time ran out. Not null.
  * @return QORIN_API_RESULT_OK, also when the time ran out, and for an unknown cbox_id, which leaves `occurred`
  * untouched and answers at once.
  */
@@ -150,12 +157,12 @@ QORIN_API QORIN_API_RESULT qorin_rpc_system_wait_event_group(unsigned int cbox_i
 /**
  * Waits for an event of a group and subgroup; see qorin_rpc_system_wait_event_group().
  *
- * @param cbox_id   control box id from qorin_rpc_system_cbox_connect().
- * @param group     group to wait for.
- * @param subgroup  subgroup to wait for, together with the group.
- * @param time_out  milliseconds.
- * @param remove    not 0: the event is taken out of the queue.
- * @param occurred  output, one byte: 1 when a matching event was found, 0 when the time ran out. Not null.
+ * @param cbox_id        control box id from qorin_rpc_system_cbox_connect().
+ * @param group          group to wait for, a QORIN_EVENT_GRP value.
+ * @param subgroup       subgroup to wait for, together with the group; a QORIN_EVENT_SUBGRP value.
+ * @param time_out       milliseconds.
+ * @param remove         not 0: the event is taken out of the queue.
+ * @param[out] occurred  one byte: 1 when a matching event was found, 0 when the time ran out. Not null.
  * @return as qorin_rpc_system_wait_event_group().
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_system_wait_event_group_subgroup(unsigned int cbox_id, unsigned int group,
@@ -165,13 +172,13 @@ QORIN_API QORIN_API_RESULT qorin_rpc_system_wait_event_group_subgroup(unsigned i
 /**
  * Waits for an event of a group and subgroup from one sender; see qorin_rpc_system_wait_event_group().
  *
- * @param cbox_id    control box id from qorin_rpc_system_cbox_connect().
- * @param group      group to wait for.
- * @param subgroup   subgroup to wait for, together with the group.
- * @param sender_id  sender to wait for, together with both.
- * @param time_out   milliseconds.
- * @param remove     not 0: the event is taken out of the queue.
- * @param occurred   output, one byte: 1 when a matching event was found, 0 when the time ran out. Not null.
+ * @param cbox_id        control box id from qorin_rpc_system_cbox_connect().
+ * @param group          group to wait for, a QORIN_EVENT_GRP value.
+ * @param subgroup       subgroup to wait for, together with the group; a QORIN_EVENT_SUBGRP value.
+ * @param sender_id      sender to wait for, together with both.
+ * @param time_out       milliseconds.
+ * @param remove         not 0: the event is taken out of the queue.
+ * @param[out] occurred  one byte: 1 when a matching event was found, 0 when the time ran out. Not null.
  * @return as qorin_rpc_system_wait_event_group().
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_system_wait_event_group_subgroup_sender_id(
@@ -191,16 +198,15 @@ QORIN_API QORIN_API_RESULT qorin_rpc_system_event_queue_clear(unsigned int cbox_
  * blocks until the reply has come.
  *
  * @param cbox_id    control box id from qorin_rpc_system_cbox_connect().
- * @param group      group of the event.
- * @param subgroup   subgroup of the event.
+ * @param group      group of the event, a QORIN_EVENT_GRP value.
+ * @param subgroup   subgroup of the event, a QORIN_EVENT_SUBGRP value.
  * @param sender_id  sender of the event.
  * @param p1         first of the five integers.
  * @param p2         second of them.
  * @param p3         third of them.
  * @param p4         fourth of them.
  * @param p5         fifth of them.
- * @return what the control box answered; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected; 0 when
- * the command link is lost.
+ * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_ts_event_echo(unsigned int cbox_id, unsigned int group, unsigned int subgroup,
                                                    unsigned int sender_id, int p1, int p2, int p3, int p4, int p5);
@@ -208,10 +214,10 @@ QORIN_API QORIN_API_RESULT qorin_rpc_ts_event_echo(unsigned int cbox_id, unsigne
 /**
  * Does nothing: in a client, events come from a control box, and only the forms with a cbox_id reach one.
  *
- * @param group     ignored.
- * @param time_out  ignored.
- * @param remove    ignored.
- * @param occurred  untouched.
+ * @param group          ignored.
+ * @param time_out       ignored.
+ * @param remove         ignored.
+ * @param[out] occurred  untouched.
  * @return QORIN_API_RESULT_OK at once.
  */
 QORIN_API QORIN_API_RESULT qorin_system_wait_event_group(unsigned int group, unsigned int time_out, char remove,
@@ -220,11 +226,11 @@ QORIN_API QORIN_API_RESULT qorin_system_wait_event_group(unsigned int group, uns
 /**
  * Does nothing; see qorin_system_wait_event_group().
  *
- * @param group     ignored.
- * @param subgroup  ignored.
- * @param time_out  ignored.
- * @param remove    ignored.
- * @param occurred  untouched.
+ * @param group          ignored.
+ * @param subgroup       ignored.
+ * @param time_out       ignored.
+ * @param remove         ignored.
+ * @param[out] occurred  untouched.
  * @return QORIN_API_RESULT_OK at once.
  */
 QORIN_API QORIN_API_RESULT qorin_system_wait_event_group_subgroup(unsigned int group, unsigned int subgroup,
@@ -233,12 +239,12 @@ QORIN_API QORIN_API_RESULT qorin_system_wait_event_group_subgroup(unsigned int g
 /**
  * Does nothing; see qorin_system_wait_event_group().
  *
- * @param group      ignored.
- * @param subgroup   ignored.
- * @param sender_id  ignored.
- * @param time_out   ignored.
- * @param remove     ignored.
- * @param occurred   untouched.
+ * @param group          ignored.
+ * @param subgroup       ignored.
+ * @param sender_id      ignored.
+ * @param time_out       ignored.
+ * @param remove         ignored.
+ * @param[out] occurred  untouched.
  * @return QORIN_API_RESULT_OK at once.
  */
 QORIN_API QORIN_API_RESULT qorin_system_wait_event_group_subgroup_sender_id(unsigned int group, unsigned int subgroup,

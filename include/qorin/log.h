@@ -5,6 +5,10 @@
  * The library writes two logs for the whole process: the call log, one entry for each call that sends a command or
  * changes a registration, and the event log, one entry for each message and event. The program `qorin_log` reads them.
  * Nothing here needs to be called: the logs start with the first connection and stay open until the process ends.
+ *
+ * The scrambling of the files is no secrecy: its key is the same in every copy of the library. Who may read them is the
+ * matter of the directory and of the process's umask. Texts go into the call log as they are: a line feed in a text
+ * begins a new line there, which is then no line of a call.
  */
 #ifndef QORIN_LOG_H
 #define QORIN_LOG_H
@@ -40,8 +44,8 @@ namespace qorin_api
 /**
  * Closes both log files and writes the data file with the current paths.
  *
- * From then on entries collect in memory for the rest of the process. Local; blocks while another thread writes an
- * event log entry. Not to be called while another thread is inside a command.
+ * From then on entries collect in memory for the rest of the process, the latest 10,000 of each log. Local; blocks
+ * while another thread writes an event log entry. Not to be called while another thread is inside a command.
  */
 QORIN_API void logger_release_control();
 

@@ -3,14 +3,13 @@
  * Control of one robot: stop and resume, servo power, speed override, homing, jog, direct teaching, collisions,
  * calibration, tool and payload.
  *
- * What a command changes shows in the status mirror, and the getters of robot_status.h, robot_safety_status.h and
- * robot_tool_status.h read it there one or two frames later. The client keeps nothing of it.
+ * What a command changes shows in the status mirror when the control box has sent a frame with it; the getters of
+ * robot_status.h, robot_safety_status.h and robot_tool_status.h read it there. The client keeps nothing of it.
  *
  * @code
  * qorin_rpc_system_control_take(cbox_id);
  * qorin_rpc_robot_servo_switch_set(cbox_id, robot_id, QORIN_SWITCH_ON);
- * qorin_rpc_robot_speed_factor_set(cbox_id, robot_id, 0.5);
- * // motions run at half their speed
+ * qorin_rpc_robot_speed_factor_set(cbox_id, robot_id, 0.5); // an override; its range is the control box's
  * qorin_rpc_robot_pause_auto_time(cbox_id, robot_id);
  * qorin_rpc_robot_resume(cbox_id, robot_id);
  * qorin_rpc_robot_stop_auto_time(cbox_id, robot_id);
@@ -27,7 +26,8 @@
  *   - QORIN_API_RESULT_ERROR_ROBOT_ENABLE_SWITCH_ON while the enable switch function is on,
  *   - QORIN_API_RESULT_ROBOT_ECAT_NOT_CONNECTED without the EtherCAT link.
  *
- * Angles are in degrees. Where no unit is told, the control box defines it.
+ * Joint angles and orientations are in degrees. Where no unit is told, the control box defines it. The client judges
+ * nothing and converts nothing.
  */
 #ifndef QORIN_ROBOT_CONTROL_H
 #define QORIN_ROBOT_CONTROL_H
@@ -41,7 +41,7 @@ QORIN_API_C_BEGIN
 /* Stop and resume. */
 
 /**
- * Resets a robot's state after a fault.
+ * Resets a robot's state.
  *
  * The control box answers QORIN_API_RESULT_ERROR_ROBOT_COULD_NOT_RESET_STATE while there is motion.
  *
@@ -56,7 +56,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_reset(unsigned int cbox_id, unsigned 
  *
  * @param cbox_id    control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id   robot id, 0 or 1.
- * @param stop_time  time in which to come to rest.
+ * @param stop_time  time for coming to rest.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_stop(unsigned int cbox_id, unsigned int robot_id, double stop_time);
@@ -77,7 +77,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_stop_auto_time(unsigned int cbox_id, 
  *
  * @param cbox_id    control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id   robot id, 0 or 1.
- * @param stop_time  time in which to come to rest.
+ * @param stop_time  time for coming to rest.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_emergency_stop(unsigned int cbox_id, unsigned int robot_id,
@@ -88,7 +88,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_emergency_stop(unsigned int cbox_id, 
  *
  * @param cbox_id    control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id   robot id, 0 or 1.
- * @param stop_time  time in which to come to rest.
+ * @param stop_time  time for coming to rest.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_pause(unsigned int cbox_id, unsigned int robot_id, double stop_time);
@@ -129,7 +129,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_servo_switch_set(unsigned int cbox_id
  *
  * @param cbox_id       control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id      robot id, 0 or 1.
- * @param speed_factor  override factor.
+ * @param speed_factor  factor by which the control box scales the speed of motions; it judges the range.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_speed_factor_set(unsigned int cbox_id, unsigned int robot_id,
@@ -164,8 +164,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_motion_auto_adjust_swith_set(unsigned
  *
  * @param cbox_id   control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot id, 0 or 1.
- * @param angle_1   first mounting angle, in degrees.
- * @param angle_2   second mounting angle, in degrees.
+ * @param angle_1   first mounting angle; the control box defines unit and axis.
+ * @param angle_2   second mounting angle.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_installation_mount_set(unsigned int cbox_id, unsigned int robot_id,
@@ -249,9 +249,9 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_joint_target_acceleration_rpm_set(uns
 /* Home position. */
 
 /**
- * Makes the present position of all joints their home.
+ * Resets the home position of all joints.
  *
- * QORIN_API_RESULT_ROBOT_HOME_RESET_FAILURE_NO_RESPONSE or ..._INVALID_PARAMETER tell that the drives did not take it.
+ * QORIN_API_RESULT_ROBOT_HOME_RESET_FAILURE_NO_RESPONSE or ..._INVALID_PARAMETER tell that it failed.
  *
  * @param cbox_id   control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot id, 0 or 1.
@@ -260,7 +260,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_joint_target_acceleration_rpm_set(uns
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_home_position_reset(unsigned int cbox_id, unsigned int robot_id);
 
 /**
- * Resets the home position of all joints by the control box's own procedure.
+ * Resets the home position of all joints automatically; what that does, the control box defines.
  *
  * @param cbox_id   control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot id, 0 or 1.
@@ -269,7 +269,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_home_position_reset(unsigned int cbox
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_home_position_auto_reset(unsigned int cbox_id, unsigned int robot_id);
 
 /**
- * Makes the present position of one joint its home.
+ * Resets the home position of one joint.
  *
  * @param cbox_id   control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot id, 0 or 1.
@@ -291,7 +291,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_home_joint_position_reset(unsigned in
  * @param joint      joint, 0 for the first.
  * @param direction  QORIN_DIRECTION_POSITIVE or QORIN_DIRECTION_NEGATIVE.
  * @param value_1    first of two numbers whose meaning the control box defines.
- * @param value_2    second number.
+ * @param value_2    second of these.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_jog_joint(unsigned int cbox_id, unsigned int robot_id, unsigned int joint,
@@ -306,10 +306,10 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_jog_joint(unsigned int cbox_id, unsig
  * @param robot_id    robot id, 0 or 1.
  * @param coordinate  frame of reference.
  * @param value_1     first of five numbers whose meaning the control box defines.
- * @param value_2     second number.
- * @param value_3     third number.
- * @param value_4     fourth number.
- * @param value_5     fifth number.
+ * @param value_2     second of these.
+ * @param value_3     third of these.
+ * @param value_4     fourth of these.
+ * @param value_5     fifth of these.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_jog_tcp_position(unsigned int cbox_id, unsigned int robot_id,
@@ -326,10 +326,10 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_jog_tcp_position(unsigned int cbox_id
  * @param robot_id    robot id, 0 or 1.
  * @param coordinate  frame of reference.
  * @param value_1     first of five numbers whose meaning the control box defines.
- * @param value_2     second number.
- * @param value_3     third number.
- * @param value_4     fourth number.
- * @param value_5     fifth number.
+ * @param value_2     second of these.
+ * @param value_3     third of these.
+ * @param value_4     fourth of these.
+ * @param value_5     fifth of these.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_jog_tcp_orientation(unsigned int cbox_id, unsigned int robot_id,
@@ -347,7 +347,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_jog_tcp_orientation(unsigned int cbox
  * @param coordinate  frame of reference.
  * @param direction   QORIN_DIRECTION_POSITIVE or QORIN_DIRECTION_NEGATIVE.
  * @param value_1     first of two numbers whose meaning the control box defines.
- * @param value_2     second number.
+ * @param value_2     second of these.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_jog_tcp_position_x(unsigned int cbox_id, unsigned int robot_id,
@@ -365,7 +365,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_jog_tcp_position_x(unsigned int cbox_
  * @param coordinate  frame of reference.
  * @param direction   QORIN_DIRECTION_POSITIVE or QORIN_DIRECTION_NEGATIVE.
  * @param value_1     first of two numbers whose meaning the control box defines.
- * @param value_2     second number.
+ * @param value_2     second of these.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_jog_tcp_position_y(unsigned int cbox_id, unsigned int robot_id,
@@ -383,7 +383,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_jog_tcp_position_y(unsigned int cbox_
  * @param coordinate  frame of reference.
  * @param direction   QORIN_DIRECTION_POSITIVE or QORIN_DIRECTION_NEGATIVE.
  * @param value_1     first of two numbers whose meaning the control box defines.
- * @param value_2     second number.
+ * @param value_2     second of these.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_jog_tcp_position_z(unsigned int cbox_id, unsigned int robot_id,
@@ -401,7 +401,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_jog_tcp_position_z(unsigned int cbox_
  * @param coordinate  frame of reference.
  * @param direction   QORIN_DIRECTION_POSITIVE or QORIN_DIRECTION_NEGATIVE.
  * @param value_1     first of two numbers whose meaning the control box defines.
- * @param value_2     second number.
+ * @param value_2     second of these.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_jog_tcp_orientation_x(unsigned int cbox_id, unsigned int robot_id,
@@ -419,7 +419,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_jog_tcp_orientation_x(unsigned int cb
  * @param coordinate  frame of reference.
  * @param direction   QORIN_DIRECTION_POSITIVE or QORIN_DIRECTION_NEGATIVE.
  * @param value_1     first of two numbers whose meaning the control box defines.
- * @param value_2     second number.
+ * @param value_2     second of these.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_jog_tcp_orientation_y(unsigned int cbox_id, unsigned int robot_id,
@@ -437,7 +437,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_jog_tcp_orientation_y(unsigned int cb
  * @param coordinate  frame of reference.
  * @param direction   QORIN_DIRECTION_POSITIVE or QORIN_DIRECTION_NEGATIVE.
  * @param value_1     first of two numbers whose meaning the control box defines.
- * @param value_2     second number.
+ * @param value_2     second of these.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_jog_tcp_orientation_z(unsigned int cbox_id, unsigned int robot_id,
@@ -459,7 +459,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_direct_teaching_switch_set(unsigned i
                                                                       QORIN_SWITCH teaching_switch);
 
 /**
- * Switches direct teaching on where the control box would refuse the plain switch.
+ * Forces direct teaching on. What that overrides, the control box defines.
  *
  * @param cbox_id   control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot id, 0 or 1.
@@ -469,11 +469,11 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_direct_teaching_force_to_switch_on(un
                                                                               unsigned int robot_id);
 
 /**
- * Sets how sensitively direct teaching takes the payload. No getter tells it.
+ * Sets the payload sensitivity of direct teaching. No getter tells it.
  *
  * @param cbox_id      control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id     robot id, 0 or 1.
- * @param sensitivity  sensitivity.
+ * @param sensitivity  a number whose scale the control box defines.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_direct_teaching_payload_sensitivity_set(unsigned int cbox_id,
@@ -519,7 +519,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_collision_mitigation_switch_set(unsig
  * @param cbox_id   control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot id, 0 or 1.
  * @param joint     joint, 0 for the first.
- * @param torque    threshold.
+ * @param torque    torque from which on it counts as a collision.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_collision_detection_threshold_joint_torque_set(unsigned int cbox_id,
@@ -550,7 +550,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_collision_detection_threshold_tcp_for
  *
  * @param cbox_id   control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot id, 0 or 1.
- * @param force     threshold.
+ * @param force     resultant force from which on it counts as a collision.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_collision_detection_threshold_tcp_resultant_force_set(unsigned int cbox_id,
@@ -613,7 +613,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_joint_dynamics_calibration_save(unsig
  * @param cbox_id   control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot id, 0 or 1.
  * @param joint     joint, 0 for the first.
- * @param feedrate  feed rate.
+ * @param feedrate  feed rate for the friction of the dynamics model, as the control box defines it.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_dynamics_friction_feedrate_set(unsigned int cbox_id, unsigned int robot_id,
@@ -645,9 +645,9 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_dynamics_dry_run_end(unsigned int cbo
 /**
  * Asks the control box whether a dry run goes on.
  *
- * @param cbox_id   control box id from qorin_rpc_system_cbox_connect().
- * @param robot_id  robot id, 0 or 1.
- * @param dry_run   output: QORIN_SWITCH_ON while a dry run goes on.
+ * @param cbox_id       control box id from qorin_rpc_system_cbox_connect().
+ * @param robot_id      robot id, 0 or 1.
+ * @param[out] dry_run  QORIN_SWITCH_ON while a dry run goes on.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_dynamics_dry_run_state_get(unsigned int cbox_id, unsigned int robot_id,
@@ -672,22 +672,28 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_tcp_from_flange_set(unsigned int cbox
                                                                double y, double z, double rx, double ry, double rz);
 
 /**
- * Has the control box compute the position of the TCP from several flange poses that touch one point.
+ * Has the control box compute the TCP from several taught flange poses.
  *
  * The control box answers QORIN_API_RESULT_ROBOT_TCP_INVALID_NUMBER_OF_ARRAY for another count, and
- * QORIN_API_RESULT_ROBOT_TCP_HAS_SEVERAL_SOLUTIONS when the poses are too much alike.
+ * QORIN_API_RESULT_ROBOT_TCP_HAS_SEVERAL_SOLUTIONS when the poses are not diverse enough.
  *
  * @param cbox_id       control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id      robot id, 0 or 1.
  * @param count         number of poses, 3 to 10.
- * @param coordinate_1  first coordinate of each taught flange pose; 16 doubles are read whatever the count says.
- * @param coordinate_2  second coordinate of each taught flange pose; 16 doubles are read whatever the count says.
- * @param coordinate_3  third coordinate of each taught flange pose; 16 doubles are read whatever the count says.
- * @param coordinate_4  fourth coordinate of each taught flange pose; 16 doubles are read whatever the count says.
- * @param coordinate_5  fifth coordinate of each taught flange pose; 16 doubles are read whatever the count says.
- * @param coordinate_6  sixth coordinate of each taught flange pose; 16 doubles are read whatever the count says.
- * @param result        output: one double, written whatever the control box answers; 16 doubles are read from it, so
- *                      it needs room for them.
+ * @param coordinate_1  [count] first coordinate of each taught flange pose; 16 doubles are read whatever the count
+ *                      says.
+ * @param coordinate_2  [count] second coordinate of each taught flange pose; 16 doubles are read whatever the count
+ *                      says.
+ * @param coordinate_3  [count] third coordinate of each taught flange pose; 16 doubles are read whatever the count
+ *                      says.
+ * @param coordinate_4  [count] fourth coordinate of each taught flange pose; 16 doubles are read whatever the count
+ *                      says.
+ * @param coordinate_5  [count] fifth coordinate of each taught flange pose; 16 doubles are read whatever the count
+ *                      says.
+ * @param coordinate_6  [count] sixth coordinate of each taught flange pose; 16 doubles are read whatever the count
+ *                      says.
+ * @param[out] result   one double that the control box defines, written whatever the control box answers; 16 doubles
+ *                      are read from it, so it needs room for them.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_tcp_from_flange_multiple_position_set(
@@ -696,14 +702,14 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_tcp_from_flange_multiple_position_set
     const double* coordinate_6, double* result);
 
 /**
- * Has the control box compute the orientation of the TCP.
+ * Has the control box compute the TCP's orientation from flange poses.
  *
- * @param cbox_id   control box id from qorin_rpc_system_cbox_connect().
- * @param robot_id  robot id, 0 or 1.
- * @param value_1   first of three numbers whose meaning the control box defines.
- * @param value_2   second number.
- * @param value_3   third number.
- * @param result    output: one double.
+ * @param cbox_id      control box id from qorin_rpc_system_cbox_connect().
+ * @param robot_id     robot id, 0 or 1.
+ * @param value_1      first of three numbers whose meaning the control box defines.
+ * @param value_2      second of these.
+ * @param value_3      third of these.
+ * @param[out] result  one double that the control box defines; 16 doubles are read from it.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_tcp_from_flange_multiple_orientation_set(unsigned int cbox_id,

@@ -43,12 +43,12 @@ QORIN_API_C_BEGIN
  *
  * Blocks for one forward solve.
  *
- * @param cbox_id      control box id from qorin_rpc_system_cbox_connect().
- * @param robot_id     robot id, 0 or 1.
- * @param type         whether the pose of the flange or of the TCP is asked for.
- * @param joints       joint angles in degrees, one double per joint.
- * @param position     output: x, y, z, 3 doubles.
- * @param orientation  output: rx, ry, rz in degrees, 3 doubles.
+ * @param cbox_id           control box id from qorin_rpc_system_cbox_connect().
+ * @param robot_id          robot id, 0 or 1.
+ * @param type              whether the pose of the flange or of the TCP is asked for.
+ * @param joints            [joints] joint angles in degrees, one double per joint.
+ * @param[out] position     [3] x, y, z, 3 doubles.
+ * @param[out] orientation  [3] rx, ry, rz in degrees, 3 doubles.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  *         QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
  */
@@ -66,10 +66,10 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_util_joint_angle_to_pose_convert(unsi
  * @param cbox_id      control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id     robot id, 0 or 1.
  * @param type         what the pose is a pose of: flange or TCP.
- * @param reference    joint angles in degrees that the solution shall be near to, one double per joint.
- * @param position     x, y, z, 3 doubles.
- * @param orientation  rx, ry, rz in degrees, 3 doubles.
- * @param joints       output: joint angles in degrees, one double per joint.
+ * @param reference    [joints] joint angles in degrees that the solution shall be near to, one double per joint.
+ * @param position     [3] x, y, z, 3 doubles.
+ * @param orientation  [3] rx, ry, rz in degrees, 3 doubles.
+ * @param[out] joints  [joints] joint angles in degrees, one double per joint.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  *         QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist;
  *         QORIN_API_RESULT_WARNING_ROBOT_INVERSE_FAILURE when a step has no solution.
@@ -89,11 +89,11 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_util_pose_to_joint_angle_convert(unsi
  * @param cbox_id      control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id     robot id, 0 or 1.
  * @param type         what the pose is a pose of: flange or TCP.
- * @param reference    joint angles in degrees to start from, one double per joint.
- * @param position     x, y, z, 3 doubles.
- * @param orientation  rx, ry, rz in degrees, 3 doubles; of all steps, it is not interpolated.
+ * @param reference    [joints] joint angles in degrees to start from, one double per joint.
+ * @param position     [3] x, y, z, 3 doubles.
+ * @param orientation  [3] rx, ry, rz in degrees, 3 doubles; of all steps, it is not interpolated.
  * @param steps        number of steps; 1 solves the target alone, 0 hands back the reference joints.
- * @param joints       output: joint angles in degrees, one double per joint.
+ * @param[out] joints  [joints] joint angles in degrees, one double per joint.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  *         QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist;
  *         QORIN_API_RESULT_WARNING_ROBOT_INVERSE_FAILURE when a step has no solution.
@@ -111,10 +111,11 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_util_pose_to_joint_angle_convert_iter
  *
  * @param cbox_id      control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id     robot id, 0 or 1.
- * @param position     x, y, z of the flange, 3 doubles.
- * @param orientation  rx, ry, rz of the flange in degrees, 3 doubles.
- * @param joints       output: 8 joint arrays, one after the other: 8 times the joints of the module, 48 doubles for 6.
- * @param valid        output: 8 flags, which solutions exist.
+ * @param position     [3] x, y, z of the flange, 3 doubles.
+ * @param orientation  [3] rx, ry, rz of the flange in degrees, 3 doubles.
+ * @param[out] joints  [8, joints] 8 joint arrays, one after the other: 8 times the joints of the module, 48 doubles for
+ *                     6.
+ * @param[out] valid   [8] 8 flags, which solutions exist.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  *         QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot is not known; that no solution exists is no error.
  */
@@ -129,13 +130,13 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_util_pose_to_joint_all_possible_angle
  *
  * Blocks for one solve. Where there is no solution, the module's side prints an error line.
  *
- * @param cbox_id      control box id from qorin_rpc_system_cbox_connect().
- * @param robot_id     robot id, 0 or 1.
- * @param posture      one of the 8 postures.
- * @param position     x, y, z of the flange, 3 doubles.
- * @param orientation  rx, ry, rz of the flange in degrees, 3 doubles.
- * @param joints       output: joint angles in degrees, one double per joint; untouched without a solution.
- * @param success      output: whether there is a solution.
+ * @param cbox_id       control box id from qorin_rpc_system_cbox_connect().
+ * @param robot_id      robot id, 0 or 1.
+ * @param posture       one of the 8 postures.
+ * @param position      [3] x, y, z of the flange, 3 doubles.
+ * @param orientation   [3] rx, ry, rz of the flange in degrees, 3 doubles.
+ * @param[out] joints   [joints] joint angles in degrees, one double per joint; untouched without a solution.
+ * @param[out] success  whether there is a solution.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  *         QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot is not known; that no solution exists is no error.
  */
@@ -152,13 +153,13 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_util_pose_to_posture_joint_angle_conv
  * @param cbox_id       control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id      robot id, 0 or 1.
  * @param joint_count   doubles in each joint array; must be the number of joints that the mirror tells.
- * @param start_joints  joint angles in degrees at the start.
- * @param end_joints    joint angles in degrees at the end.
+ * @param start_joints  [joints] joint angles in degrees at the start.
+ * @param end_joints    [joints] joint angles in degrees at the end.
  * @param point_count   number of points; 0 writes nothing. With 1 the point comes from angles that are no numbers.
  * @param type          whether positions of the flange or of the TCP are asked for.
- * @param x             output: x of the points, point_count doubles.
- * @param y             output: y of the points, point_count doubles.
- * @param z             output: z of the points, point_count doubles.
+ * @param[out] x        [point_count] x of the points, point_count doubles.
+ * @param[out] y        [point_count] y of the points, point_count doubles.
+ * @param[out] z        [point_count] z of the points, point_count doubles.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  *         QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist;
  *         QORIN_API_RESULT_ERROR_ROBOT_NUMBER_OF_JOINT_NOT_MATCHED when joint_count is another.
@@ -170,11 +171,11 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_util_position_trajectory_get(
 /**
  * Local form of qorin_rpc_robot_util_joint_angle_to_pose_convert().
  *
- * @param robot_id     robot id, 0 or 1.
- * @param type         whether the pose of the flange or of the TCP is asked for.
- * @param joints       joint angles in degrees, one double per joint.
- * @param position     output: x, y, z, 3 doubles.
- * @param orientation  output: rx, ry, rz in degrees, 3 doubles.
+ * @param robot_id          robot id, 0 or 1.
+ * @param type              whether the pose of the flange or of the TCP is asked for.
+ * @param joints            [joints] joint angles in degrees, one double per joint.
+ * @param[out] position     [3] x, y, z, 3 doubles.
+ * @param[out] orientation  [3] rx, ry, rz in degrees, 3 doubles.
  * @return as that one; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected and the TCP is asked
  *         for.
  */
@@ -187,10 +188,10 @@ QORIN_API QORIN_API_RESULT qorin_robot_util_joint_angle_to_pose_convert(unsigned
  *
  * @param robot_id     robot id, 0 or 1.
  * @param type         what the pose is a pose of: flange or TCP.
- * @param reference    joint angles in degrees that the solution shall be near to, one double per joint.
- * @param position     x, y, z, 3 doubles.
- * @param orientation  rx, ry, rz in degrees, 3 doubles.
- * @param joints       output: joint angles in degrees, one double per joint.
+ * @param reference    [joints] joint angles in degrees that the solution shall be near to, one double per joint.
+ * @param position     [3] x, y, z, 3 doubles.
+ * @param orientation  [3] rx, ry, rz in degrees, 3 doubles.
+ * @param[out] joints  [joints] joint angles in degrees, one double per joint.
  * @return as that one; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected, unless the pose is
  *         the flange's and has a solution near the reference.
  */
@@ -203,11 +204,11 @@ QORIN_API QORIN_API_RESULT qorin_robot_util_pose_to_joint_angle_convert(unsigned
  *
  * @param robot_id     robot id, 0 or 1.
  * @param type         what the pose is a pose of: flange or TCP.
- * @param reference    joint angles in degrees to start from, one double per joint.
- * @param position     x, y, z, 3 doubles.
- * @param orientation  rx, ry, rz in degrees, 3 doubles; of all steps, it is not interpolated.
+ * @param reference    [joints] joint angles in degrees to start from, one double per joint.
+ * @param position     [3] x, y, z, 3 doubles.
+ * @param orientation  [3] rx, ry, rz in degrees, 3 doubles; of all steps, it is not interpolated.
  * @param steps        number of steps; 1 solves the target alone, 0 hands back the reference joints.
- * @param joints       output: joint angles in degrees, one double per joint.
+ * @param[out] joints  [joints] joint angles in degrees, one double per joint.
  * @return as that one; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_util_pose_to_joint_angle_convert_iterative(
@@ -218,10 +219,11 @@ QORIN_API QORIN_API_RESULT qorin_robot_util_pose_to_joint_angle_convert_iterativ
  * Local form of qorin_rpc_robot_util_pose_to_joint_all_possible_angle_convert().
  *
  * @param robot_id     robot id, 0 or 1.
- * @param position     x, y, z of the flange, 3 doubles.
- * @param orientation  rx, ry, rz of the flange in degrees, 3 doubles.
- * @param joints       output: 8 joint arrays, one after the other: 8 times the joints of the module, 48 doubles for 6.
- * @param valid        output: 8 flags, which solutions exist.
+ * @param position     [3] x, y, z of the flange, 3 doubles.
+ * @param orientation  [3] rx, ry, rz of the flange in degrees, 3 doubles.
+ * @param[out] joints  [8, joints] 8 joint arrays, one after the other: 8 times the joints of the module, 48 doubles for
+ *                     6.
+ * @param[out] valid   [8] 8 flags, which solutions exist.
  * @return as that one, without QORIN_API_RESULT_ERROR_CBOX_ID_INVALID.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_util_pose_to_joint_all_possible_angle_convert(unsigned int robot_id,
@@ -232,12 +234,12 @@ QORIN_API QORIN_API_RESULT qorin_robot_util_pose_to_joint_all_possible_angle_con
 /**
  * Local form of qorin_rpc_robot_util_pose_to_posture_joint_angle_convert().
  *
- * @param robot_id     robot id, 0 or 1.
- * @param posture      one of the 8 postures.
- * @param position     x, y, z of the flange, 3 doubles.
- * @param orientation  rx, ry, rz of the flange in degrees, 3 doubles.
- * @param joints       output: joint angles in degrees, one double per joint; untouched without a solution.
- * @param success      output: whether there is a solution.
+ * @param robot_id      robot id, 0 or 1.
+ * @param posture       one of the 8 postures.
+ * @param position      [3] x, y, z of the flange, 3 doubles.
+ * @param orientation   [3] rx, ry, rz of the flange in degrees, 3 doubles.
+ * @param[out] joints   [joints] joint angles in degrees, one double per joint; untouched without a solution.
+ * @param[out] success  whether there is a solution.
  * @return as that one, without QORIN_API_RESULT_ERROR_CBOX_ID_INVALID.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_util_pose_to_posture_joint_angle_convert(unsigned int robot_id,
@@ -251,13 +253,13 @@ QORIN_API QORIN_API_RESULT qorin_robot_util_pose_to_posture_joint_angle_convert(
  *
  * @param robot_id      robot id, 0 or 1.
  * @param joint_count   doubles in each joint array; must be the number of joints that the mirror tells.
- * @param start_joints  joint angles in degrees at the start.
- * @param end_joints    joint angles in degrees at the end.
+ * @param start_joints  [joints] joint angles in degrees at the start.
+ * @param end_joints    [joints] joint angles in degrees at the end.
  * @param point_count   number of points; 0 writes nothing. With 1 the point comes from angles that are no numbers.
  * @param type          whether positions of the flange or of the TCP are asked for.
- * @param x             output: x of the points, point_count doubles.
- * @param y             output: y of the points, point_count doubles.
- * @param z             output: z of the points, point_count doubles.
+ * @param[out] x        [point_count] x of the points, point_count doubles.
+ * @param[out] y        [point_count] y of the points, point_count doubles.
+ * @param[out] z        [point_count] z of the points, point_count doubles.
  * @return as that one; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_util_position_trajectory_get(unsigned int robot_id, unsigned int joint_count,

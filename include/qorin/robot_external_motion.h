@@ -101,9 +101,9 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_ext_profiler_pos_ort_euler_add(unsign
  * @param y             position along y.
  * @param z             position along z.
  * @param quaternion_1  first number of the orientation's quaternion; the control box defines the order.
- * @param quaternion_2  second number.
- * @param quaternion_3  third number.
- * @param quaternion_4  fourth number.
+ * @param quaternion_2  second of these.
+ * @param quaternion_3  third of these.
+ * @param quaternion_4  fourth of these.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_ext_profiler_pos_ort_quat_add(unsigned int cbox_id, unsigned int robot_id,
@@ -120,7 +120,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_ext_profiler_pos_ort_quat_add(unsigne
  * @param cbox_id   control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot id, 0 or 1.
  * @param count     number of joints.
- * @param angles    angle of each joint, in degrees; 16 doubles are read whatever the count says.
+ * @param angles    [count] angle of each joint, in degrees; 16 doubles are read whatever the count says.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_ext_profiler_joint_add(unsigned int cbox_id, unsigned int robot_id,
@@ -144,9 +144,9 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_ext_move_switch_set(unsigned int cbox
  *
  * The local form without a control box id tells the client's record instead, which is always off.
  *
- * @param cbox_id   control box id from qorin_rpc_system_cbox_connect().
- * @param robot_id  robot id, 0 or 1.
- * @param ext_move  output: on or off.
+ * @param cbox_id        control box id from qorin_rpc_system_cbox_connect().
+ * @param robot_id       robot id, 0 or 1.
+ * @param[out] ext_move  on or off.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_ext_move_switch_get(unsigned int cbox_id, unsigned int robot_id,
@@ -168,9 +168,9 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_ext_move_stop_mode_set(unsigned int c
  *
  * The local form without a control box id tells the client's record instead, which is always on.
  *
- * @param cbox_id    control box id from qorin_rpc_system_cbox_connect().
- * @param robot_id   robot id, 0 or 1.
- * @param stop_mode  output: on or off.
+ * @param cbox_id         control box id from qorin_rpc_system_cbox_connect().
+ * @param robot_id        robot id, 0 or 1.
+ * @param[out] stop_mode  on or off.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_ext_move_stop_mode_get(unsigned int cbox_id, unsigned int robot_id,
@@ -183,12 +183,12 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_ext_move_stop_mode_get(unsigned int c
  * @param robot_id   robot id, 0 or 1.
  * @param pose_type  QORIN_POSE_TYPE_FLANGE or QORIN_POSE_TYPE_TCP.
  * @param value_1    first of seven numbers whose meaning the control box defines.
- * @param value_2    second number.
- * @param value_3    third number.
- * @param value_4    fourth number.
- * @param value_5    fifth number.
- * @param value_6    sixth number.
- * @param value_7    seventh number.
+ * @param value_2    second of these.
+ * @param value_3    third of these.
+ * @param value_4    fourth of these.
+ * @param value_5    fifth of these.
+ * @param value_6    sixth of these.
+ * @param value_7    seventh of these.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_ext_move_pos_ort_euler_add(unsigned int cbox_id, unsigned int robot_id,
@@ -203,13 +203,13 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_ext_move_pos_ort_euler_add(unsigned i
  * @param robot_id   robot id, 0 or 1.
  * @param pose_type  QORIN_POSE_TYPE_FLANGE or QORIN_POSE_TYPE_TCP.
  * @param value_1    first of eight numbers whose meaning the control box defines.
- * @param value_2    second number.
- * @param value_3    third number.
- * @param value_4    fourth number.
- * @param value_5    fifth number.
- * @param value_6    sixth number.
- * @param value_7    seventh number.
- * @param value_8    eighth number.
+ * @param value_2    second of these.
+ * @param value_3    third of these.
+ * @param value_4    fourth of these.
+ * @param value_5    fifth of these.
+ * @param value_6    sixth of these.
+ * @param value_7    seventh of these.
+ * @param value_8    eighth of these.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_ext_move_pos_ort_quat_add(unsigned int cbox_id, unsigned int robot_id,
@@ -224,7 +224,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_ext_move_pos_ort_quat_add(unsigned in
  * @param cbox_id   control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot id, 0 or 1.
  * @param count     number of joints.
- * @param angles    angle of each joint, in degrees; 16 doubles are read whatever the count says.
+ * @param angles    [count] angle of each joint, in degrees; 16 doubles are read whatever the count says.
  * @param value     a number whose meaning the control box defines.
  * @return as every command.
  */
@@ -269,8 +269,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_conveyor_encoder_switch_set(unsigned 
  * @param robot_id  robot id, 0 or 1.
  * @param type      a QORIN_CONVEYOR_ENCODER_TYPE value.
  * @param value_1   first of three numbers whose meaning the control box defines.
- * @param value_2   second number.
- * @param value_3   third number.
+ * @param value_2   second of these.
+ * @param value_3   third of these.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_conveyor_encoder_info_set(unsigned int cbox_id, unsigned int robot_id,

@@ -18,9 +18,8 @@ QORIN_API_C_BEGIN
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param profiler_switch  output: on or off.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] profiler_switch  on or off.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_ext_profiler_switch_get(unsigned int cbox_id, unsigned int robot_id,
                                                                    QORIN_SWITCH* profiler_switch);
@@ -33,9 +32,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_ext_profiler_switch_get(unsigned int 
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param period  output: period in milliseconds, rounded, halves up.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] period  period in milliseconds, rounded, halves up.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_ext_profiler_period_get(unsigned int cbox_id, unsigned int robot_id,
                                                                    unsigned int* period);
@@ -45,9 +43,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_ext_profiler_period_get(unsigned int 
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param size  output: size of the buffer, as the control box counts it.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] size  size of the buffer, as the control box counts it.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_ext_profiler_buffer_size_get(unsigned int cbox_id, unsigned int robot_id,
                                                                         unsigned int* size);
@@ -57,9 +54,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_ext_profiler_buffer_size_get(unsigned
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param type  output: flange or TCP.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] type  flange or TCP.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_ext_profiler_tcp_type_get(unsigned int cbox_id, unsigned int robot_id,
                                                                      QORIN_POSE_TYPE* type);
@@ -69,9 +65,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_ext_profiler_tcp_type_get(unsigned in
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param mode  output: on or off.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] mode  on or off.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_conveyor_mode_get(unsigned int cbox_id, unsigned int robot_id,
                                                              QORIN_CONVEYOR_MODE* mode);
@@ -83,7 +78,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_conveyor_mode_get(unsigned int cbox_i
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param encoder_switch  output: on or off.
+ * @param[out] encoder_switch  on or off.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot is not known.
  */
@@ -94,8 +89,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_conveyor_encoder_switch_get(unsigned 
  * The same as qorin_rpc_robot_ext_profiler_switch_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param profiler_switch  output: on or off.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] profiler_switch  on or off.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_ext_profiler_switch_get(unsigned int robot_id, QORIN_SWITCH* profiler_switch);
 
@@ -103,8 +98,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_ext_profiler_switch_get(unsigned int robo
  * The same as qorin_rpc_robot_ext_profiler_period_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param period  output: period in milliseconds, rounded, halves up.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] period  period in milliseconds, rounded, halves up.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_ext_profiler_period_get(unsigned int robot_id, unsigned int* period);
 
@@ -112,8 +107,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_ext_profiler_period_get(unsigned int robo
  * The same as qorin_rpc_robot_ext_profiler_buffer_size_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param size  output: size of the buffer, as the control box counts it.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] size  size of the buffer, as the control box counts it.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_ext_profiler_buffer_size_get(unsigned int robot_id, unsigned int* size);
 
@@ -121,8 +116,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_ext_profiler_buffer_size_get(unsigned int
  * The same as qorin_rpc_robot_ext_profiler_tcp_type_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param type  output: flange or TCP.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] type  flange or TCP.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_ext_profiler_tcp_type_get(unsigned int robot_id, QORIN_POSE_TYPE* type);
 
@@ -130,8 +125,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_ext_profiler_tcp_type_get(unsigned int ro
  * The same as qorin_rpc_robot_conveyor_mode_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param mode  output: on or off.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] mode  on or off.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_conveyor_mode_get(unsigned int robot_id, QORIN_CONVEYOR_MODE* mode);
 
@@ -139,8 +134,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_conveyor_mode_get(unsigned int robot_id, 
  * The same as qorin_rpc_robot_conveyor_encoder_switch_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param encoder_switch  output: on or off.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] encoder_switch  on or off.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_conveyor_encoder_switch_get(unsigned int robot_id, QORIN_SWITCH* encoder_switch);
 

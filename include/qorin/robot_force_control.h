@@ -14,7 +14,7 @@
  * qorin_rpc_robot_force_ctrl_direction_switch_set(cbox_id, robot_id, off, off, on, off, off, off);
  * qorin_rpc_robot_force_ctrl_force_set(cbox_id, robot_id, 0.0, 0.0, -20.0, 0.0, 0.0, 0.0);
  * qorin_rpc_robot_force_ctrl_switch_set(cbox_id, robot_id, on);
- * // the robot presses downwards
+ * // force control acts along z alone
  * qorin_rpc_robot_force_ctrl_switch_set(cbox_id, robot_id, off);
  * @endcode
  *
@@ -210,18 +210,18 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_force_ctrl_stiffness_set(unsigned int
  *
  * @param cbox_id    control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id   robot id, 0 or 1.
- * @param frequency  cut-off of the filter.
+ * @param frequency  setting of the filter; the control box defines its unit.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_force_ctrl_low_pass_filter_set(unsigned int cbox_id, unsigned int robot_id,
                                                                           double frequency);
 
 /**
- * Tells which measured values are taken less their bias.
+ * Switches the bias of the force value, per axis.
  *
  * @param cbox_id   control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot id, 0 or 1.
- * @param x         QORIN_SWITCH_ON for a bias along x.
+ * @param x         QORIN_SWITCH_ON or QORIN_SWITCH_OFF along x.
  * @param y         the same along y.
  * @param z         the same along z.
  * @param rx        the same about x.
@@ -235,7 +235,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_force_ctrl_force_value_bias_set(unsig
                                                                            QORIN_SWITCH ry, QORIN_SWITCH rz);
 
 /**
- * Switches the bias of the force that is estimated without a sensor.
+ * Switches the sensorless bias.
  *
  * @param cbox_id   control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot id, 0 or 1.
@@ -275,7 +275,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_force_torq_sensor_bias_switch_set(uns
  *
  * @param cbox_id      control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id     robot id, 0 or 1.
- * @param bias_switch  QORIN_SWITCH_ON or QORIN_SWITCH_OFF.
+ * @param bias_switch  QORIN_SWITCH_ON or QORIN_SWITCH_OFF; what the two set apart here, the control box defines.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_force_torq_sensor_bias_clear(unsigned int cbox_id, unsigned int robot_id,

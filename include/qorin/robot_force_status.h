@@ -21,9 +21,8 @@ QORIN_API_C_BEGIN
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param control_switch  output: on or off.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] control_switch  on or off.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_force_ctrl_switch_get(unsigned int cbox_id, unsigned int robot_id,
                                                                  QORIN_SWITCH* control_switch);
@@ -33,9 +32,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_force_ctrl_switch_get(unsigned int cb
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param coordinate  output: base or TCP.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] coordinate  base or TCP.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_force_ctrl_coordinate_get(unsigned int cbox_id, unsigned int robot_id,
                                                                      QORIN_REF_COORDINATE* coordinate);
@@ -45,14 +43,13 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_force_ctrl_coordinate_get(unsigned in
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param x  output: on or off along x.
- * @param y  output: on or off along y.
- * @param z  output: on or off along z.
- * @param rx  output: on or off about x.
- * @param ry  output: on or off about y.
- * @param rz  output: on or off about z.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] x  on or off along x.
+ * @param[out] y  on or off along y.
+ * @param[out] z  on or off along z.
+ * @param[out] rx  on or off about x.
+ * @param[out] ry  on or off about y.
+ * @param[out] rz  on or off about z.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_force_ctrl_direction_switch_get(unsigned int cbox_id, unsigned int robot_id,
                                                                            QORIN_SWITCH* x, QORIN_SWITCH* y,
@@ -64,14 +61,13 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_force_ctrl_direction_switch_get(unsig
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param x  output: force along x.
- * @param y  output: force along y.
- * @param z  output: force along z.
- * @param rx  output: torque about x.
- * @param ry  output: torque about y.
- * @param rz  output: torque about z.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] x  force along x.
+ * @param[out] y  force along y.
+ * @param[out] z  force along z.
+ * @param[out] rx  torque about x.
+ * @param[out] ry  torque about y.
+ * @param[out] rz  torque about z.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_force_ctrl_force_get(unsigned int cbox_id, unsigned int robot_id, double* x,
                                                                 double* y, double* z, double* rx, double* ry,
@@ -82,14 +78,13 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_force_ctrl_force_get(unsigned int cbo
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param x  output: velocity along x.
- * @param y  output: velocity along y.
- * @param z  output: velocity along z.
- * @param rx  output: velocity about x.
- * @param ry  output: velocity about y.
- * @param rz  output: velocity about z.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] x  velocity along x.
+ * @param[out] y  velocity along y.
+ * @param[out] z  velocity along z.
+ * @param[out] rx  velocity about x.
+ * @param[out] ry  velocity about y.
+ * @param[out] rz  velocity about z.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_force_ctrl_velocity_get(unsigned int cbox_id, unsigned int robot_id,
                                                                    double* x, double* y, double* z, double* rx,
@@ -100,14 +95,13 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_force_ctrl_velocity_get(unsigned int 
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param x  output: acceleration along x.
- * @param y  output: acceleration along y.
- * @param z  output: acceleration along z.
- * @param rx  output: acceleration about x.
- * @param ry  output: acceleration about y.
- * @param rz  output: acceleration about z.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] x  acceleration along x.
+ * @param[out] y  acceleration along y.
+ * @param[out] z  acceleration along z.
+ * @param[out] rx  acceleration about x.
+ * @param[out] ry  acceleration about y.
+ * @param[out] rz  acceleration about z.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_force_ctrl_acc_get(unsigned int cbox_id, unsigned int robot_id, double* x,
                                                               double* y, double* z, double* rx, double* ry, double* rz);
@@ -117,14 +111,13 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_force_ctrl_acc_get(unsigned int cbox_
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param x  output: deceleration along x.
- * @param y  output: deceleration along y.
- * @param z  output: deceleration along z.
- * @param rx  output: deceleration about x.
- * @param ry  output: deceleration about y.
- * @param rz  output: deceleration about z.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] x  deceleration along x.
+ * @param[out] y  deceleration along y.
+ * @param[out] z  deceleration along z.
+ * @param[out] rx  deceleration about x.
+ * @param[out] ry  deceleration about y.
+ * @param[out] rz  deceleration about z.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_force_ctrl_dec_get(unsigned int cbox_id, unsigned int robot_id, double* x,
                                                               double* y, double* z, double* rx, double* ry, double* rz);
@@ -134,14 +127,13 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_force_ctrl_dec_get(unsigned int cbox_
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param x  output: stiffness along x.
- * @param y  output: stiffness along y.
- * @param z  output: stiffness along z.
- * @param rx  output: stiffness about x.
- * @param ry  output: stiffness about y.
- * @param rz  output: stiffness about z.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] x  stiffness along x.
+ * @param[out] y  stiffness along y.
+ * @param[out] z  stiffness along z.
+ * @param[out] rx  stiffness about x.
+ * @param[out] ry  stiffness about y.
+ * @param[out] rz  stiffness about z.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_force_ctrl_stiffness_get(unsigned int cbox_id, unsigned int robot_id,
                                                                     double* x, double* y, double* z, double* rx,
@@ -152,14 +144,13 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_force_ctrl_stiffness_get(unsigned int
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param x  output: damping ratio along x.
- * @param y  output: damping ratio along y.
- * @param z  output: damping ratio along z.
- * @param rx  output: damping ratio about x.
- * @param ry  output: damping ratio about y.
- * @param rz  output: damping ratio about z.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] x  damping ratio along x.
+ * @param[out] y  damping ratio along y.
+ * @param[out] z  damping ratio along z.
+ * @param[out] rx  damping ratio about x.
+ * @param[out] ry  damping ratio about y.
+ * @param[out] rz  damping ratio about z.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_force_ctrl_damping_ratio_get(unsigned int cbox_id, unsigned int robot_id,
                                                                         double* x, double* y, double* z, double* rx,
@@ -170,14 +161,13 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_force_ctrl_damping_ratio_get(unsigned
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param x  output: inertia along x.
- * @param y  output: inertia along y.
- * @param z  output: inertia along z.
- * @param rx  output: inertia about x.
- * @param ry  output: inertia about y.
- * @param rz  output: inertia about z.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] x  inertia along x.
+ * @param[out] y  inertia along y.
+ * @param[out] z  inertia along z.
+ * @param[out] rx  inertia about x.
+ * @param[out] ry  inertia about y.
+ * @param[out] rz  inertia about z.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_force_ctrl_inertia_get(unsigned int cbox_id, unsigned int robot_id,
                                                                   double* x, double* y, double* z, double* rx,
@@ -188,14 +178,13 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_force_ctrl_inertia_get(unsigned int c
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param x  output: velocity along x.
- * @param y  output: velocity along y.
- * @param z  output: velocity along z.
- * @param rx  output: velocity about x.
- * @param ry  output: velocity about y.
- * @param rz  output: velocity about z.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] x  velocity along x.
+ * @param[out] y  velocity along y.
+ * @param[out] z  velocity along z.
+ * @param[out] rx  velocity about x.
+ * @param[out] ry  velocity about y.
+ * @param[out] rz  velocity about z.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_force_ctrl_approach_velocity_get(unsigned int cbox_id, unsigned int robot_id,
                                                                             double* x, double* y, double* z, double* rx,
@@ -206,21 +195,19 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_force_ctrl_approach_velocity_get(unsi
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param low_pass_filter  output: setting, as it was given to the control box.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] low_pass_filter  setting, as it was given to the control box.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_force_ctrl_low_pass_filter_get(unsigned int cbox_id, unsigned int robot_id,
                                                                           double* low_pass_filter);
 
 /**
- * Bias of force control that works without a sensor.
+ * Sensorless bias of force control.
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param bias_switch  output: on or off.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] bias_switch  on or off.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_force_ctrl_sensorless_bias_get(unsigned int cbox_id, unsigned int robot_id,
                                                                           QORIN_SWITCH* bias_switch);
@@ -230,14 +217,13 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_force_ctrl_sensorless_bias_get(unsign
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param x  output: on or off along x.
- * @param y  output: on or off along y.
- * @param z  output: on or off along z.
- * @param rx  output: on or off about x.
- * @param ry  output: on or off about y.
- * @param rz  output: on or off about z.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] x  on or off along x.
+ * @param[out] y  on or off along y.
+ * @param[out] z  on or off along z.
+ * @param[out] rx  on or off about x.
+ * @param[out] ry  on or off about y.
+ * @param[out] rz  on or off about z.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_force_ctrl_force_value_bias_get(unsigned int cbox_id, unsigned int robot_id,
                                                                            QORIN_SWITCH* x, QORIN_SWITCH* y,
@@ -249,11 +235,10 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_force_ctrl_force_value_bias_get(unsig
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param x  output: force along x.
- * @param y  output: force along y.
- * @param z  output: force along z.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] x  force along x.
+ * @param[out] y  force along y.
+ * @param[out] z  force along z.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_force_ctrl_actual_force_get(unsigned int cbox_id, unsigned int robot_id,
                                                                        double* x, double* y, double* z);
@@ -263,11 +248,10 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_force_ctrl_actual_force_get(unsigned 
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param x  output: torque about x.
- * @param y  output: torque about y.
- * @param z  output: torque about z.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] x  torque about x.
+ * @param[out] y  torque about y.
+ * @param[out] z  torque about z.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_force_ctrl_actual_torq_get(unsigned int cbox_id, unsigned int robot_id,
                                                                       double* x, double* y, double* z);
@@ -279,9 +263,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_force_ctrl_actual_torq_get(unsigned i
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param sensor_switch  output: on or off.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] sensor_switch  on or off.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_force_torq_sensor_switch_get(unsigned int cbox_id, unsigned int robot_id,
                                                                         QORIN_SWITCH* sensor_switch);
@@ -291,9 +274,9 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_force_torq_sensor_switch_get(unsigned
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param x  output: force along x.
- * @param y  output: force along y.
- * @param z  output: force along z.
+ * @param[out] x  force along x.
+ * @param[out] y  force along y.
+ * @param[out] z  force along z.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot is not known.
  */
@@ -306,9 +289,9 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_force_torq_sensor_actual_force_get(un
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param x  output: torque about x.
- * @param y  output: torque about y.
- * @param z  output: torque about z.
+ * @param[out] x  torque about x.
+ * @param[out] y  torque about y.
+ * @param[out] z  torque about z.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot is not known.
  */
@@ -317,11 +300,11 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_force_torq_sensor_actual_torq_get(uns
                                                                              double* y, double* z);
 
 /**
- * Whether forces that the application sends stand for the force-torque sensor of a robot.
+ * Whether the input of force and torque from the application is in use for a robot.
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param sensor_switch  output: on or off.
+ * @param[out] sensor_switch  on or off.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot is not known.
  */
@@ -332,8 +315,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_ext_force_torq_sensor_switch_get(unsi
  * The same as qorin_rpc_robot_force_ctrl_switch_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param control_switch  output: on or off.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] control_switch  on or off.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_switch_get(unsigned int robot_id, QORIN_SWITCH* control_switch);
 
@@ -341,8 +324,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_switch_get(unsigned int robot_
  * The same as qorin_rpc_robot_force_ctrl_coordinate_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param coordinate  output: base or TCP.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] coordinate  base or TCP.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_coordinate_get(unsigned int robot_id,
                                                                  QORIN_REF_COORDINATE* coordinate);
@@ -351,13 +334,13 @@ QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_coordinate_get(unsigned int ro
  * The same as qorin_rpc_robot_force_ctrl_direction_switch_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param x  output: on or off along x.
- * @param y  output: on or off along y.
- * @param z  output: on or off along z.
- * @param rx  output: on or off about x.
- * @param ry  output: on or off about y.
- * @param rz  output: on or off about z.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] x  on or off along x.
+ * @param[out] y  on or off along y.
+ * @param[out] z  on or off along z.
+ * @param[out] rx  on or off about x.
+ * @param[out] ry  on or off about y.
+ * @param[out] rz  on or off about z.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_direction_switch_get(unsigned int robot_id, QORIN_SWITCH* x,
                                                                        QORIN_SWITCH* y, QORIN_SWITCH* z,
@@ -368,13 +351,13 @@ QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_direction_switch_get(unsigned 
  * The same as qorin_rpc_robot_force_ctrl_force_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param x  output: force along x.
- * @param y  output: force along y.
- * @param z  output: force along z.
- * @param rx  output: torque about x.
- * @param ry  output: torque about y.
- * @param rz  output: torque about z.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] x  force along x.
+ * @param[out] y  force along y.
+ * @param[out] z  force along z.
+ * @param[out] rx  torque about x.
+ * @param[out] ry  torque about y.
+ * @param[out] rz  torque about z.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_force_get(unsigned int robot_id, double* x, double* y, double* z,
                                                             double* rx, double* ry, double* rz);
@@ -383,13 +366,13 @@ QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_force_get(unsigned int robot_i
  * The same as qorin_rpc_robot_force_ctrl_velocity_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param x  output: velocity along x.
- * @param y  output: velocity along y.
- * @param z  output: velocity along z.
- * @param rx  output: velocity about x.
- * @param ry  output: velocity about y.
- * @param rz  output: velocity about z.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] x  velocity along x.
+ * @param[out] y  velocity along y.
+ * @param[out] z  velocity along z.
+ * @param[out] rx  velocity about x.
+ * @param[out] ry  velocity about y.
+ * @param[out] rz  velocity about z.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_velocity_get(unsigned int robot_id, double* x, double* y, double* z,
                                                                double* rx, double* ry, double* rz);
@@ -398,13 +381,13 @@ QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_velocity_get(unsigned int robo
  * The same as qorin_rpc_robot_force_ctrl_acc_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param x  output: acceleration along x.
- * @param y  output: acceleration along y.
- * @param z  output: acceleration along z.
- * @param rx  output: acceleration about x.
- * @param ry  output: acceleration about y.
- * @param rz  output: acceleration about z.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] x  acceleration along x.
+ * @param[out] y  acceleration along y.
+ * @param[out] z  acceleration along z.
+ * @param[out] rx  acceleration about x.
+ * @param[out] ry  acceleration about y.
+ * @param[out] rz  acceleration about z.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_acc_get(unsigned int robot_id, double* x, double* y, double* z,
                                                           double* rx, double* ry, double* rz);
@@ -413,13 +396,13 @@ QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_acc_get(unsigned int robot_id,
  * The same as qorin_rpc_robot_force_ctrl_dec_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param x  output: deceleration along x.
- * @param y  output: deceleration along y.
- * @param z  output: deceleration along z.
- * @param rx  output: deceleration about x.
- * @param ry  output: deceleration about y.
- * @param rz  output: deceleration about z.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] x  deceleration along x.
+ * @param[out] y  deceleration along y.
+ * @param[out] z  deceleration along z.
+ * @param[out] rx  deceleration about x.
+ * @param[out] ry  deceleration about y.
+ * @param[out] rz  deceleration about z.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_dec_get(unsigned int robot_id, double* x, double* y, double* z,
                                                           double* rx, double* ry, double* rz);
@@ -428,13 +411,13 @@ QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_dec_get(unsigned int robot_id,
  * The same as qorin_rpc_robot_force_ctrl_stiffness_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param x  output: stiffness along x.
- * @param y  output: stiffness along y.
- * @param z  output: stiffness along z.
- * @param rx  output: stiffness about x.
- * @param ry  output: stiffness about y.
- * @param rz  output: stiffness about z.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] x  stiffness along x.
+ * @param[out] y  stiffness along y.
+ * @param[out] z  stiffness along z.
+ * @param[out] rx  stiffness about x.
+ * @param[out] ry  stiffness about y.
+ * @param[out] rz  stiffness about z.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_stiffness_get(unsigned int robot_id, double* x, double* y, double* z,
                                                                 double* rx, double* ry, double* rz);
@@ -443,13 +426,13 @@ QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_stiffness_get(unsigned int rob
  * The same as qorin_rpc_robot_force_ctrl_damping_ratio_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param x  output: damping ratio along x.
- * @param y  output: damping ratio along y.
- * @param z  output: damping ratio along z.
- * @param rx  output: damping ratio about x.
- * @param ry  output: damping ratio about y.
- * @param rz  output: damping ratio about z.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] x  damping ratio along x.
+ * @param[out] y  damping ratio along y.
+ * @param[out] z  damping ratio along z.
+ * @param[out] rx  damping ratio about x.
+ * @param[out] ry  damping ratio about y.
+ * @param[out] rz  damping ratio about z.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_damping_ratio_get(unsigned int robot_id, double* x, double* y,
                                                                     double* z, double* rx, double* ry, double* rz);
@@ -458,13 +441,13 @@ QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_damping_ratio_get(unsigned int
  * The same as qorin_rpc_robot_force_ctrl_inertia_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param x  output: inertia along x.
- * @param y  output: inertia along y.
- * @param z  output: inertia along z.
- * @param rx  output: inertia about x.
- * @param ry  output: inertia about y.
- * @param rz  output: inertia about z.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] x  inertia along x.
+ * @param[out] y  inertia along y.
+ * @param[out] z  inertia along z.
+ * @param[out] rx  inertia about x.
+ * @param[out] ry  inertia about y.
+ * @param[out] rz  inertia about z.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_inertia_get(unsigned int robot_id, double* x, double* y, double* z,
                                                               double* rx, double* ry, double* rz);
@@ -473,13 +456,13 @@ QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_inertia_get(unsigned int robot
  * The same as qorin_rpc_robot_force_ctrl_approach_velocity_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param x  output: velocity along x.
- * @param y  output: velocity along y.
- * @param z  output: velocity along z.
- * @param rx  output: velocity about x.
- * @param ry  output: velocity about y.
- * @param rz  output: velocity about z.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] x  velocity along x.
+ * @param[out] y  velocity along y.
+ * @param[out] z  velocity along z.
+ * @param[out] rx  velocity about x.
+ * @param[out] ry  velocity about y.
+ * @param[out] rz  velocity about z.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_approach_velocity_get(unsigned int robot_id, double* x, double* y,
                                                                         double* z, double* rx, double* ry, double* rz);
@@ -488,8 +471,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_approach_velocity_get(unsigned
  * The same as qorin_rpc_robot_force_ctrl_low_pass_filter_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param low_pass_filter  output: setting, as it was given to the control box.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] low_pass_filter  setting, as it was given to the control box.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_low_pass_filter_get(unsigned int robot_id, double* low_pass_filter);
 
@@ -497,8 +480,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_low_pass_filter_get(unsigned i
  * The same as qorin_rpc_robot_force_ctrl_sensorless_bias_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param bias_switch  output: on or off.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] bias_switch  on or off.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_sensorless_bias_get(unsigned int robot_id, QORIN_SWITCH* bias_switch);
 
@@ -506,13 +489,13 @@ QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_sensorless_bias_get(unsigned i
  * The same as qorin_rpc_robot_force_ctrl_force_value_bias_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param x  output: on or off along x.
- * @param y  output: on or off along y.
- * @param z  output: on or off along z.
- * @param rx  output: on or off about x.
- * @param ry  output: on or off about y.
- * @param rz  output: on or off about z.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] x  on or off along x.
+ * @param[out] y  on or off along y.
+ * @param[out] z  on or off along z.
+ * @param[out] rx  on or off about x.
+ * @param[out] ry  on or off about y.
+ * @param[out] rz  on or off about z.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_force_value_bias_get(unsigned int robot_id, QORIN_SWITCH* x,
                                                                        QORIN_SWITCH* y, QORIN_SWITCH* z,
@@ -523,10 +506,10 @@ QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_force_value_bias_get(unsigned 
  * The same as qorin_rpc_robot_force_ctrl_actual_force_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param x  output: force along x.
- * @param y  output: force along y.
- * @param z  output: force along z.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] x  force along x.
+ * @param[out] y  force along y.
+ * @param[out] z  force along z.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_actual_force_get(unsigned int robot_id, double* x, double* y,
                                                                    double* z);
@@ -535,10 +518,10 @@ QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_actual_force_get(unsigned int 
  * The same as qorin_rpc_robot_force_ctrl_actual_torq_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param x  output: torque about x.
- * @param y  output: torque about y.
- * @param z  output: torque about z.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] x  torque about x.
+ * @param[out] y  torque about y.
+ * @param[out] z  torque about z.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_actual_torq_get(unsigned int robot_id, double* x, double* y,
                                                                   double* z);
@@ -547,8 +530,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_force_ctrl_actual_torq_get(unsigned int r
  * The same as qorin_rpc_robot_force_torq_sensor_switch_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param sensor_switch  output: on or off.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] sensor_switch  on or off.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_force_torq_sensor_switch_get(unsigned int robot_id, QORIN_SWITCH* sensor_switch);
 
@@ -556,10 +539,10 @@ QORIN_API QORIN_API_RESULT qorin_robot_force_torq_sensor_switch_get(unsigned int
  * The same as qorin_rpc_robot_force_torq_sensor_actual_force_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param x  output: force along x.
- * @param y  output: force along y.
- * @param z  output: force along z.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] x  force along x.
+ * @param[out] y  force along y.
+ * @param[out] z  force along z.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_force_torq_sensor_actual_force_get(unsigned int robot_id, double* x, double* y,
                                                                           double* z);
@@ -568,10 +551,10 @@ QORIN_API QORIN_API_RESULT qorin_robot_force_torq_sensor_actual_force_get(unsign
  * The same as qorin_rpc_robot_force_torq_sensor_actual_torq_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param x  output: torque about x.
- * @param y  output: torque about y.
- * @param z  output: torque about z.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] x  torque about x.
+ * @param[out] y  torque about y.
+ * @param[out] z  torque about z.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_force_torq_sensor_actual_torq_get(unsigned int robot_id, double* x, double* y,
                                                                          double* z);
@@ -580,8 +563,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_force_torq_sensor_actual_torq_get(unsigne
  * The same as qorin_rpc_robot_ext_force_torq_sensor_switch_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param sensor_switch  output: on or off.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] sensor_switch  on or off.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_ext_force_torq_sensor_switch_get(unsigned int robot_id,
                                                                         QORIN_SWITCH* sensor_switch);

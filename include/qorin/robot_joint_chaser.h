@@ -72,9 +72,9 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_joint_chaser_switch_set(unsigned int 
  *
  * A getter: no lock, no line, no traffic, no blocking.
  *
- * @param cbox_id   control box id from qorin_rpc_system_cbox_connect().
- * @param robot_id  robot, 0 or 1.
- * @param value     output: on while the robot follows streamed joint angles, else off. Must not be null.
+ * @param cbox_id     control box id from qorin_rpc_system_cbox_connect().
+ * @param robot_id    robot, 0 or 1.
+ * @param[out] value  on while the robot follows streamed joint angles, else off. Must not be null.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  *         QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
  */
@@ -95,7 +95,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_joint_chaser_switch_get(unsigned int 
  * @param cbox_id   control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
  * @param count     number of joints whose distance is tested, from the first. 0 tests none; above 6 counts as 6.
- * @param joints    targets, degrees. Six doubles (48 bytes) are read and sent, whatever `count` is.
+ * @param joints    [6] targets, degrees. Six doubles (48 bytes) are read and sent, whatever `count` is.
  * @return QORIN_API_RESULT_OK when the datagram was handed over, whatever became of it;
  *         QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected and `count` is not 0;
  *         QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist and `count` is not 0;
@@ -146,9 +146,9 @@ QORIN_API QORIN_API_RESULT qorin_rpc_internal_robot_joint_chaser_switch_set(unsi
 /**
  * The work of qorin_rpc_robot_joint_chaser_switch_get().
  *
- * @param cbox_id   as there.
- * @param robot_id  as there.
- * @param value     as there.
+ * @param cbox_id     as there.
+ * @param robot_id    as there.
+ * @param[out] value  as there.
  * @return as there.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_internal_robot_joint_chaser_switch_get(unsigned int cbox_id, unsigned int robot_id,
@@ -160,7 +160,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_internal_robot_joint_chaser_switch_get(unsi
  * @param cbox_id   as there.
  * @param robot_id  as there.
  * @param count     as there.
- * @param joints    as there.
+ * @param joints    [6] as there.
  * @return as there.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_internal_robot_joint_chaser_move(unsigned int cbox_id, unsigned int robot_id,

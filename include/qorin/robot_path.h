@@ -64,10 +64,10 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_util_common_to_base_coordinate_conver
  * @param rx       rx in degrees.
  * @param ry       ry in degrees.
  * @param rz       rz in degrees.
- * @param x        output: x of the vector part.
- * @param y        output: y of the vector part.
- * @param z        output: z of the vector part.
- * @param w        output: the scalar part.
+ * @param[out] x   x of the vector part.
+ * @param[out] y   y of the vector part.
+ * @param[out] z   z of the vector part.
+ * @param[out] w   the scalar part.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_tcp_quaternion_from_orientation_get(unsigned int cbox_id, double rx,
@@ -84,9 +84,9 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_tcp_quaternion_from_orientation_get(u
  * @param y        y of the vector part.
  * @param z        z of the vector part.
  * @param w        the scalar part.
- * @param rx       output: rx in degrees, -180 to 180.
- * @param ry       output: ry in degrees, -90 to 90.
- * @param rz       output: rz in degrees, -180 to 180.
+ * @param[out] rx  rx in degrees, -180 to 180.
+ * @param[out] ry  ry in degrees, -90 to 90.
+ * @param[out] rz  rz in degrees, -180 to 180.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_tcp_orientation_from_quaternion_get(unsigned int cbox_id, double x, double y,
@@ -100,11 +100,11 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_tcp_orientation_from_quaternion_get(u
  * the sense of the three points.
  *
  * @param cbox_id         control box id from qorin_rpc_system_cbox_connect().
- * @param point_1         x, y, z, 3 doubles.
- * @param point_2         x, y, z, 3 doubles.
- * @param point_3         x, y, z, 3 doubles.
+ * @param point_1         [3] x, y, z, 3 doubles.
+ * @param point_2         [3] x, y, z, 3 doubles.
+ * @param point_3         [3] x, y, z, 3 doubles.
  * @param division_count  number of parts, 2 to 180.
- * @param points          output: division_count - 1 points of 3 doubles, one after the other.
+ * @param[out] points     [division_count - 1, 3] division_count - 1 points of 3 doubles, one after the other.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  *         QORIN_API_RESULT_ERROR_ROBOT_PARAM_OUT_OF_RANGE for another number of parts;
  *         QORIN_API_RESULT_ERROR_ROBOT_THREE_POINTS_STRAIGHT_LINE when the points are in line within one degree;
@@ -121,7 +121,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_tcp_divide_circumference_get(unsigned
  *
  * @param cbox_id       control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id      robot id, 0 or 1.
- * @param offset        output: the distance; infinite without acceleration.
+ * @param[out] offset   the distance; infinite without acceleration.
  * @param speed         speed to be reached, in units of position per second.
  * @param acceleration  acceleration, in units of position per second squared.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
@@ -138,7 +138,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_conveyor_offset_calculate(unsigned in
  *
  * @param cbox_id       control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id      robot id, 0 or 1.
- * @param offset        output: the distance; infinite without acceleration.
+ * @param[out] offset   the distance; infinite without acceleration.
  * @param acceleration  acceleration, in units of position per second squared.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  *         QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot is not known;
@@ -171,13 +171,13 @@ QORIN_API QORIN_API_RESULT qorin_robot_util_common_to_base_coordinate_convert(un
 /**
  * Local form of qorin_rpc_robot_tcp_quaternion_from_orientation_get().
  *
- * @param rx  rx in degrees.
- * @param ry  ry in degrees.
- * @param rz  rz in degrees.
- * @param x   output: x of the vector part.
- * @param y   output: y of the vector part.
- * @param z   output: z of the vector part.
- * @param w   output: the scalar part.
+ * @param rx      rx in degrees.
+ * @param ry      ry in degrees.
+ * @param rz      rz in degrees.
+ * @param[out] x  x of the vector part.
+ * @param[out] y  y of the vector part.
+ * @param[out] z  z of the vector part.
+ * @param[out] w  the scalar part.
  * @return as that one, without QORIN_API_RESULT_ERROR_CBOX_ID_INVALID.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_tcp_quaternion_from_orientation_get(double rx, double ry, double rz, double* x,
@@ -186,13 +186,13 @@ QORIN_API QORIN_API_RESULT qorin_robot_tcp_quaternion_from_orientation_get(doubl
 /**
  * Local form of qorin_rpc_robot_tcp_orientation_from_quaternion_get().
  *
- * @param x   x of the vector part; the quaternion must have length 1.
- * @param y   y of the vector part.
- * @param z   z of the vector part.
- * @param w   the scalar part.
- * @param rx  output: rx in degrees, -180 to 180.
- * @param ry  output: ry in degrees, -90 to 90.
- * @param rz  output: rz in degrees, -180 to 180.
+ * @param x        x of the vector part; the quaternion must have length 1.
+ * @param y        y of the vector part.
+ * @param z        z of the vector part.
+ * @param w        the scalar part.
+ * @param[out] rx  rx in degrees, -180 to 180.
+ * @param[out] ry  ry in degrees, -90 to 90.
+ * @param[out] rz  rz in degrees, -180 to 180.
  * @return as that one, without QORIN_API_RESULT_ERROR_CBOX_ID_INVALID.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_tcp_orientation_from_quaternion_get(double x, double y, double z, double w,
@@ -201,11 +201,11 @@ QORIN_API QORIN_API_RESULT qorin_robot_tcp_orientation_from_quaternion_get(doubl
 /**
  * Local form of qorin_rpc_robot_tcp_divide_circumference_get().
  *
- * @param point_1         x, y, z, 3 doubles.
- * @param point_2         x, y, z, 3 doubles.
- * @param point_3         x, y, z, 3 doubles.
+ * @param point_1         [3] x, y, z, 3 doubles.
+ * @param point_2         [3] x, y, z, 3 doubles.
+ * @param point_3         [3] x, y, z, 3 doubles.
  * @param division_count  number of parts, 2 to 180.
- * @param points          output: division_count - 1 points of 3 doubles, one after the other.
+ * @param[out] points     [division_count - 1, 3] division_count - 1 points of 3 doubles, one after the other.
  * @return as that one, without QORIN_API_RESULT_ERROR_CBOX_ID_INVALID.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_tcp_divide_circumference_get(const double* point_1, const double* point_2,
@@ -216,7 +216,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_tcp_divide_circumference_get(const double
  * Local form of qorin_rpc_robot_conveyor_offset_calculate().
  *
  * @param robot_id      robot id, 0 or 1.
- * @param offset        output: the distance; infinite without acceleration.
+ * @param[out] offset   the distance; infinite without acceleration.
  * @param speed         speed to be reached, in units of position per second.
  * @param acceleration  acceleration, in units of position per second squared.
  * @return as that one, without QORIN_API_RESULT_ERROR_CBOX_ID_INVALID.
@@ -228,7 +228,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_conveyor_offset_calculate(unsigned int ro
  * Local form of qorin_rpc_robot_conveyor_offset_calculate_with_encoder().
  *
  * @param robot_id      robot id, 0 or 1.
- * @param offset        output: the distance; infinite without acceleration.
+ * @param[out] offset   the distance; infinite without acceleration.
  * @param acceleration  acceleration, in units of position per second squared.
  * @return as that one; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
  */

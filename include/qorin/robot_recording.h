@@ -43,9 +43,9 @@ QORIN_API_C_BEGIN
 /**
  * Creates an empty recording buffer.
  *
- * @param cbox_id    control box id from qorin_rpc_system_cbox_connect().
- * @param robot_id   robot id, 0 or 1.
- * @param buffer_id  output: id of the new buffer.
+ * @param cbox_id         control box id from qorin_rpc_system_cbox_connect().
+ * @param robot_id        robot id, 0 or 1.
+ * @param[out] buffer_id  id of the new buffer.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_recording_create(unsigned int cbox_id, unsigned int robot_id,
@@ -54,10 +54,10 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_recording_create(unsigned int cbox_id
 /**
  * Creates a recording buffer from a file.
  *
- * @param cbox_id    control box id from qorin_rpc_system_cbox_connect().
- * @param robot_id   robot id, 0 or 1.
- * @param file       name of a file of the control box; 128 bytes are read.
- * @param buffer_id  output: id of the new buffer.
+ * @param cbox_id         control box id from qorin_rpc_system_cbox_connect().
+ * @param robot_id        robot id, 0 or 1.
+ * @param file            name of a file of the control box; 128 bytes are read.
+ * @param[out] buffer_id  id of the new buffer.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_recording_create_from_file(unsigned int cbox_id, unsigned int robot_id,
@@ -146,7 +146,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_recording_trim(unsigned int cbox_id, 
  *                       resampling.
  * @param value_1        a number whose meaning the control box defines.
  * @param value_2        another such number.
- * @param result         output: a number whose meaning the control box defines.
+ * @param[out] result    a number whose meaning the control box defines.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_recording_interpolate(unsigned int cbox_id, unsigned int robot_id,
@@ -161,10 +161,10 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_recording_interpolate(unsigned int cb
  * The control box answers QORIN_API_RESULT_ROBOT_TARGET_START_POSE_NOT_MATCHED when the robot does not stand at its
  * start; the start angles below tell where that is.
  *
- * @param cbox_id    control box id from qorin_rpc_system_cbox_connect().
- * @param robot_id   robot id, 0 or 1.
- * @param buffer_id  recording buffer id.
- * @param result     output: a number whose meaning the control box defines.
+ * @param cbox_id      control box id from qorin_rpc_system_cbox_connect().
+ * @param robot_id     robot id, 0 or 1.
+ * @param buffer_id    recording buffer id.
+ * @param[out] result  a number whose meaning the control box defines.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_recording_playback(unsigned int cbox_id, unsigned int robot_id,
@@ -187,11 +187,11 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_recording_file_save(unsigned int cbox
 /**
  * Asks for the angle of a joint at the start of a recording.
  *
- * @param cbox_id    control box id from qorin_rpc_system_cbox_connect().
- * @param robot_id   robot id, 0 or 1.
- * @param buffer_id  recording buffer id.
- * @param joint      joint, 0 for the first.
- * @param angle      output: angle in degrees.
+ * @param cbox_id     control box id from qorin_rpc_system_cbox_connect().
+ * @param robot_id    robot id, 0 or 1.
+ * @param buffer_id   recording buffer id.
+ * @param joint       joint, 0 for the first.
+ * @param[out] angle  angle in degrees.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_recording_angle_start_get(unsigned int cbox_id, unsigned int robot_id,
@@ -201,11 +201,11 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_recording_angle_start_get(unsigned in
 /**
  * Asks for the angle of a joint at the end of a recording.
  *
- * @param cbox_id    control box id from qorin_rpc_system_cbox_connect().
- * @param robot_id   robot id, 0 or 1.
- * @param buffer_id  recording buffer id.
- * @param joint      joint, 0 for the first.
- * @param angle      output: angle in degrees.
+ * @param cbox_id     control box id from qorin_rpc_system_cbox_connect().
+ * @param robot_id    robot id, 0 or 1.
+ * @param buffer_id   recording buffer id.
+ * @param joint       joint, 0 for the first.
+ * @param[out] angle  angle in degrees.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_recording_angle_end_get(unsigned int cbox_id, unsigned int robot_id,
@@ -215,11 +215,11 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_recording_angle_end_get(unsigned int 
 /**
  * Asks for the angle of a joint at the start of a recording in a file.
  *
- * @param cbox_id   control box id from qorin_rpc_system_cbox_connect().
- * @param robot_id  robot id, 0 or 1.
- * @param file      name of a file of the control box; 128 bytes are read.
- * @param joint     joint, 0 for the first.
- * @param angle     output: angle in degrees.
+ * @param cbox_id     control box id from qorin_rpc_system_cbox_connect().
+ * @param robot_id    robot id, 0 or 1.
+ * @param file        name of a file of the control box; 128 bytes are read.
+ * @param joint       joint, 0 for the first.
+ * @param[out] angle  angle in degrees.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_recording_angle_start_from_file_get(unsigned int cbox_id,
@@ -229,11 +229,11 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_recording_angle_start_from_file_get(u
 /**
  * Asks for the angle of a joint at the end of a recording in a file.
  *
- * @param cbox_id   control box id from qorin_rpc_system_cbox_connect().
- * @param robot_id  robot id, 0 or 1.
- * @param file      name of a file of the control box; 128 bytes are read.
- * @param joint     joint, 0 for the first.
- * @param angle     output: angle in degrees.
+ * @param cbox_id     control box id from qorin_rpc_system_cbox_connect().
+ * @param robot_id    robot id, 0 or 1.
+ * @param file        name of a file of the control box; 128 bytes are read.
+ * @param joint       joint, 0 for the first.
+ * @param[out] angle  angle in degrees.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_recording_angle_end_from_file_get(unsigned int cbox_id,

@@ -138,7 +138,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_safety_limit_collision_detection_tcp_
  * @param cbox_id   control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot id, 0 or 1.
  * @param count     number of joints.
- * @param torque    threshold of each joint; 16 doubles are read whatever the count says.
+ * @param torque    [count] threshold of each joint; 16 doubles are read whatever the count says.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_safety_limit_collision_detection_torque_in_reduced_mode_set(
@@ -150,18 +150,18 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_safety_limit_collision_detection_torq
  * Creates a plane from its normal and one of its points.
  *
  * The control box answers QORIN_API_RESULT_ERROR_ROBOT_VECTOR_SIZE_ZERO for a normal of zeroes and
- * QORIN_API_RESULT_ERROR_ROBOT_WORK_SPACE_IS_FULL when all planes are taken. The mirror holds it as normal and
- * distance.
+ * QORIN_API_RESULT_ERROR_ROBOT_WORK_SPACE_IS_FULL when all planes are taken. Read back as normal and distance by
+ * qorin_rpc_robot_safety_limit_plane_norm_distance_get(); the origin is not kept.
  *
- * @param cbox_id   control box id from qorin_rpc_system_cbox_connect().
- * @param robot_id  robot id, 0 or 1.
- * @param norm_x    normal along x.
- * @param norm_y    normal along y.
- * @param norm_z    normal along z.
- * @param origin_x  point of the plane along x.
- * @param origin_y  point of the plane along y.
- * @param origin_z  point of the plane along z.
- * @param plane_id  output: plane id. Written whatever the control box answers: 0 when it gave none.
+ * @param cbox_id        control box id from qorin_rpc_system_cbox_connect().
+ * @param robot_id       robot id, 0 or 1.
+ * @param norm_x         normal along x.
+ * @param norm_y         normal along y.
+ * @param norm_z         normal along z.
+ * @param origin_x       point of the plane along x.
+ * @param origin_y       point of the plane along y.
+ * @param origin_z       point of the plane along z.
+ * @param[out] plane_id  plane id. Written whatever the control box answers: 0 when it gave none.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_safety_limit_plane_create_with_norm_origin(
@@ -169,18 +169,20 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_safety_limit_plane_create_with_norm_o
     double origin_y, double origin_z, unsigned int* plane_id);
 
 /**
- * Creates a plane from its normal and its distance.
+ * Creates a plane from its normal and its distance: the points p with normal * p = distance.
  *
  * The control box answers QORIN_API_RESULT_ERROR_ROBOT_VECTOR_SIZE_ZERO for a normal of zeroes and
  * QORIN_API_RESULT_ERROR_ROBOT_WORK_SPACE_IS_FULL when all planes are taken.
  *
- * @param cbox_id   control box id from qorin_rpc_system_cbox_connect().
- * @param robot_id  robot id, 0 or 1.
- * @param norm_x    normal along x.
- * @param norm_y    normal along y.
- * @param norm_z    normal along z.
- * @param distance  constant term of the plane's equation.
- * @param plane_id  output: plane id. Written whatever the control box answers: 0 when it gave none.
+ * @param cbox_id        control box id from qorin_rpc_system_cbox_connect().
+ * @param robot_id       robot id, 0 or 1.
+ * @param norm_x         normal along x.
+ * @param norm_y         normal along y.
+ * @param norm_z         normal along z.
+ * @param distance       distance of the plane from the origin along a normal of length 1: the constant term of its
+ *                       equation, normal * p + constant = 0, with the sign turned. The getter gives it back as it was
+ *                       set.
+ * @param[out] plane_id  plane id. Written whatever the control box answers: 0 when it gave none.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_safety_limit_plane_create_with_norm_distance(unsigned int cbox_id,
@@ -243,29 +245,29 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_safety_limit_tcp_bounding_shape_delet
  * @param robot_id    robot id, 0 or 1.
  * @param coordinate  frame of reference.
  * @param value_1     first of 24 numbers whose meaning the control box defines.
- * @param value_2     number 2.
- * @param value_3     number 3.
- * @param value_4     number 4.
- * @param value_5     number 5.
- * @param value_6     number 6.
- * @param value_7     number 7.
- * @param value_8     number 8.
- * @param value_9     number 9.
- * @param value_10    number 10.
- * @param value_11    number 11.
- * @param value_12    number 12.
- * @param value_13    number 13.
- * @param value_14    number 14.
- * @param value_15    number 15.
- * @param value_16    number 16.
- * @param value_17    number 17.
- * @param value_18    number 18.
- * @param value_19    number 19.
- * @param value_20    number 20.
- * @param value_21    number 21.
- * @param value_22    number 22.
- * @param value_23    number 23.
- * @param value_24    number 24.
+ * @param value_2     number 2 of these.
+ * @param value_3     number 3 of these.
+ * @param value_4     number 4 of these.
+ * @param value_5     number 5 of these.
+ * @param value_6     number 6 of these.
+ * @param value_7     number 7 of these.
+ * @param value_8     number 8 of these.
+ * @param value_9     number 9 of these.
+ * @param value_10    number 10 of these.
+ * @param value_11    number 11 of these.
+ * @param value_12    number 12 of these.
+ * @param value_13    number 13 of these.
+ * @param value_14    number 14 of these.
+ * @param value_15    number 15 of these.
+ * @param value_16    number 16 of these.
+ * @param value_17    number 17 of these.
+ * @param value_18    number 18 of these.
+ * @param value_19    number 19 of these.
+ * @param value_20    number 20 of these.
+ * @param value_21    number 21 of these.
+ * @param value_22    number 22 of these.
+ * @param value_23    number 23 of these.
+ * @param value_24    number 24 of these.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_safety_limit_tcp_bounding_box_set(
@@ -282,9 +284,9 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_safety_limit_tcp_bounding_box_set(
  * @param robot_id    robot id, 0 or 1.
  * @param coordinate  frame of reference.
  * @param value_1     first of four numbers whose meaning the control box defines.
- * @param value_2     second number.
- * @param value_3     third number.
- * @param value_4     fourth number.
+ * @param value_2     second of these.
+ * @param value_3     third of these.
+ * @param value_4     fourth of these.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_safety_limit_tcp_bounding_sphere_set(unsigned int cbox_id,
@@ -300,13 +302,13 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_safety_limit_tcp_bounding_sphere_set(
  * @param robot_id    robot id, 0 or 1.
  * @param coordinate  frame of reference.
  * @param value_1     first of eight numbers whose meaning the control box defines.
- * @param value_2     second number.
- * @param value_3     third number.
- * @param value_4     fourth number.
- * @param value_5     fifth number.
- * @param value_6     sixth number.
- * @param value_7     seventh number.
- * @param value_8     eighth number.
+ * @param value_2     second of these.
+ * @param value_3     third of these.
+ * @param value_4     fourth of these.
+ * @param value_5     fifth of these.
+ * @param value_6     sixth of these.
+ * @param value_7     seventh of these.
+ * @param value_8     eighth of these.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_safety_limit_tcp_bounding_cylinder_set(
@@ -320,13 +322,13 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_safety_limit_tcp_bounding_cylinder_se
  * @param robot_id    robot id, 0 or 1.
  * @param coordinate  frame of reference.
  * @param value_1     first of eight numbers whose meaning the control box defines.
- * @param value_2     second number.
- * @param value_3     third number.
- * @param value_4     fourth number.
- * @param value_5     fifth number.
- * @param value_6     sixth number.
- * @param value_7     seventh number.
- * @param value_8     eighth number.
+ * @param value_2     second of these.
+ * @param value_3     third of these.
+ * @param value_4     fourth of these.
+ * @param value_5     fifth of these.
+ * @param value_6     sixth of these.
+ * @param value_7     seventh of these.
+ * @param value_8     eighth of these.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_safety_limit_tcp_bounding_cone_set(

@@ -18,9 +18,8 @@ QORIN_API_C_BEGIN
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param state  output: QORIN_ROBOT_SAFETY_STATE_SAFE, or QORIN_ROBOT_SAFETY_STATE_NOT_SAFE while a violation stands.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] state  QORIN_ROBOT_SAFETY_STATE_SAFE, or QORIN_ROBOT_SAFETY_STATE_NOT_SAFE while a violation stands.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_state_safety_get(unsigned int cbox_id, unsigned int robot_id,
                                                             QORIN_ROBOT_SAFETY_STATE* state);
@@ -30,9 +29,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_state_safety_get(unsigned int cbox_id
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param crc32  output: the sum that the control box computed.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] crc32  the sum that the control box computed.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_safety_crc32_get(unsigned int cbox_id, unsigned int robot_id,
                                                             unsigned int* crc32);
@@ -42,7 +40,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_safety_crc32_get(unsigned int cbox_id
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param limit_switch  output: on or off.
+ * @param[out] limit_switch  on or off.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot is not known.
  */
@@ -54,9 +52,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_safety_limit_switch_get(unsigned int 
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param speed_max  output: largest speed.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] speed_max  largest speed.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_safety_limit_tcp_speed_max_get(unsigned int cbox_id, unsigned int robot_id,
                                                                           double* speed_max);
@@ -66,9 +63,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_safety_limit_tcp_speed_max_get(unsign
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param acc_max  output: largest acceleration.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] acc_max  largest acceleration.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_safety_limit_tcp_acc_max_get(unsigned int cbox_id, unsigned int robot_id,
                                                                         double* acc_max);
@@ -79,10 +75,9 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_safety_limit_tcp_acc_max_get(unsigned
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
- * @param angle_1  output: one end of the range, in degrees; the one that the control box sends second.
- * @param angle_2  output: the other end, in degrees; the one that the control box sends first.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] angle_1  one end of the range, in degrees; the one that the control box sends second.
+ * @param[out] angle_2  the other end, in degrees; the one that the control box sends first.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_safety_limit_joint_angle_get(unsigned int cbox_id, unsigned int robot_id,
                                                                         unsigned int joint, double* angle_1,
@@ -94,9 +89,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_safety_limit_joint_angle_get(unsigned
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
- * @param speed_max  output: largest speed, in degrees per second.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] speed_max  largest speed, in degrees per second.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_safety_limit_joint_speed_max_get(unsigned int cbox_id, unsigned int robot_id,
                                                                             unsigned int joint, double* speed_max);
@@ -107,9 +101,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_safety_limit_joint_speed_max_get(unsi
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
- * @param acc_max  output: largest acceleration, in degrees per second squared.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] acc_max  largest acceleration, in degrees per second squared.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_safety_limit_joint_acc_max_get(unsigned int cbox_id, unsigned int robot_id,
                                                                           unsigned int joint, double* acc_max);
@@ -119,10 +112,9 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_safety_limit_joint_acc_max_get(unsign
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param velocity_1  output: the limit that the control box sends second.
- * @param velocity_2  output: the limit that the control box sends first.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] velocity_1  the limit that the control box sends second.
+ * @param[out] velocity_2  the limit that the control box sends first.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_safety_limit_velocity_in_reduced_mode_get(unsigned int cbox_id,
                                                                                      unsigned int robot_id,
@@ -134,9 +126,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_safety_limit_velocity_in_reduced_mode
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param force  output: threshold.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] force  threshold.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_safety_limit_collision_detection_tcp_force_in_reduced_mode_get(
     unsigned int cbox_id, unsigned int robot_id, double* force);
@@ -150,10 +141,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_safety_limit_collision_detection_tcp_
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
  * @param count  number of thresholds to read, below the robot's number of joints; 0 reads none.
- * @param torque  output: thresholds of the first `count` joints.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist;
- * QORIN_API_RESULT_ERROR_ROBOT_JOINT_INDEX_OUT_OF_RANGE when count is out of range.
+ * @param[out] torque  [count] thresholds of the first `count` joints.
+ * @return as every robot getter; QORIN_API_RESULT_ERROR_ROBOT_JOINT_INDEX_OUT_OF_RANGE when count is out of range.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_safety_limit_collision_detection_torque_in_reduced_mode_get(
     unsigned int cbox_id, unsigned int robot_id, unsigned int count, double* torque);
@@ -163,7 +152,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_safety_limit_collision_detection_torq
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param shape_switch  output: on or off.
+ * @param[out] shape_switch  on or off.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot is not known.
  */
@@ -174,15 +163,15 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_safety_limit_tcp_bounding_shape_switc
 /**
  * A safety plane of a robot, as its normal and its distance.
  *
- * The robot is judged ahead of the plane.
+ * The plane is the points p with normal * p = distance. The robot is judged ahead of the plane.
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
  * @param plane  plane id, 0 to 9.
- * @param norm_x  output: normal, component x.
- * @param norm_y  output: normal, component y.
- * @param norm_z  output: normal, component z.
- * @param distance  output: distance of the plane along the normal.
+ * @param[out] norm_x  normal, component x.
+ * @param[out] norm_y  normal, component y.
+ * @param[out] norm_z  normal, component z.
+ * @param[out] distance  the constant term of the plane's equation with its sign turned, as it was set.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot is not known; QORIN_API_RESULT_ERROR_ROBOT_PARAM_OUT_OF_RANGE
  * when plane is out of range; QORIN_API_RESULT_ERROR_ROBOT_INVAILD_WORK_SPACE_ID when the robot has no such plane.
@@ -202,12 +191,12 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_safety_limit_plane_norm_distance_get(
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot; not judged.
  * @param plane  plane id; not judged.
- * @param norm_x  not written.
- * @param norm_y  not written.
- * @param norm_z  not written.
- * @param origin_x  not written.
- * @param origin_y  not written.
- * @param origin_z  not written.
+ * @param[out] norm_x  not written.
+ * @param[out] norm_y  not written.
+ * @param[out] norm_z  not written.
+ * @param[out] origin_x  not written.
+ * @param[out] origin_y  not written.
+ * @param[out] origin_z  not written.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_safety_limit_plane_norm_origin_get(unsigned int cbox_id,
@@ -221,9 +210,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_safety_limit_plane_norm_origin_get(un
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param detection_switch  output: on or off.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] detection_switch  on or off.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_collision_detection_switch_get(unsigned int cbox_id, unsigned int robot_id,
                                                                           QORIN_SWITCH* detection_switch);
@@ -233,9 +221,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_collision_detection_switch_get(unsign
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param force  output: threshold.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] force  threshold.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_collision_detection_threshold_tcp_resultant_force_get(unsigned int cbox_id,
                                                                                                  unsigned int robot_id,
@@ -246,14 +233,13 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_collision_detection_threshold_tcp_res
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param x  output: force threshold along x.
- * @param y  output: force threshold along y.
- * @param z  output: force threshold along z.
- * @param rx  output: torque threshold about x.
- * @param ry  output: torque threshold about y.
- * @param rz  output: torque threshold about z.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] x  force threshold along x.
+ * @param[out] y  force threshold along y.
+ * @param[out] z  force threshold along z.
+ * @param[out] rx  torque threshold about x.
+ * @param[out] ry  torque threshold about y.
+ * @param[out] rz  torque threshold about z.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_collision_detection_threshold_tcp_force_get(unsigned int cbox_id,
                                                                                        unsigned int robot_id, double* x,
@@ -266,10 +252,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_collision_detection_threshold_tcp_for
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, below the robot's number of joints.
- * @param torque  output: threshold.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist;
- * QORIN_API_RESULT_ERROR_ROBOT_JOINT_INDEX_OUT_OF_RANGE when joint is out of range.
+ * @param[out] torque  threshold.
+ * @return as every robot getter; QORIN_API_RESULT_ERROR_ROBOT_JOINT_INDEX_OUT_OF_RANGE when joint is out of range.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_collision_detection_threshold_joint_torque_get(unsigned int cbox_id,
                                                                                           unsigned int robot_id,
@@ -281,9 +265,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_collision_detection_threshold_joint_t
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param mitigation_switch  output: on or off.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] mitigation_switch  on or off.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_collision_mitigation_switch_get(unsigned int cbox_id, unsigned int robot_id,
                                                                            QORIN_SWITCH* mitigation_switch);
@@ -292,8 +275,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_collision_mitigation_switch_get(unsig
  * The same as qorin_rpc_robot_state_safety_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param state  output: QORIN_ROBOT_SAFETY_STATE_SAFE, or QORIN_ROBOT_SAFETY_STATE_NOT_SAFE while a violation stands.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] state  QORIN_ROBOT_SAFETY_STATE_SAFE, or QORIN_ROBOT_SAFETY_STATE_NOT_SAFE while a violation stands.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_state_safety_get(unsigned int robot_id, QORIN_ROBOT_SAFETY_STATE* state);
 
@@ -301,8 +284,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_state_safety_get(unsigned int robot_id, Q
  * The same as qorin_rpc_robot_safety_crc32_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param crc32  output: the sum that the control box computed.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] crc32  the sum that the control box computed.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_safety_crc32_get(unsigned int robot_id, unsigned int* crc32);
 
@@ -310,8 +293,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_safety_crc32_get(unsigned int robot_id, u
  * The same as qorin_rpc_robot_safety_limit_switch_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param limit_switch  output: on or off.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] limit_switch  on or off.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_safety_limit_switch_get(unsigned int robot_id, QORIN_SWITCH* limit_switch);
 
@@ -319,8 +302,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_safety_limit_switch_get(unsigned int robo
  * The same as qorin_rpc_robot_safety_limit_tcp_speed_max_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param speed_max  output: largest speed.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] speed_max  largest speed.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_safety_limit_tcp_speed_max_get(unsigned int robot_id, double* speed_max);
 
@@ -328,8 +311,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_safety_limit_tcp_speed_max_get(unsigned i
  * The same as qorin_rpc_robot_safety_limit_tcp_acc_max_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param acc_max  output: largest acceleration.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] acc_max  largest acceleration.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_safety_limit_tcp_acc_max_get(unsigned int robot_id, double* acc_max);
 
@@ -338,9 +321,9 @@ QORIN_API QORIN_API_RESULT qorin_robot_safety_limit_tcp_acc_max_get(unsigned int
  *
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
- * @param angle_1  output: one end of the range, in degrees; the one that the control box sends second.
- * @param angle_2  output: the other end, in degrees; the one that the control box sends first.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] angle_1  one end of the range, in degrees; the one that the control box sends second.
+ * @param[out] angle_2  the other end, in degrees; the one that the control box sends first.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_safety_limit_joint_angle_get(unsigned int robot_id, unsigned int joint,
                                                                     double* angle_1, double* angle_2);
@@ -350,8 +333,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_safety_limit_joint_angle_get(unsigned int
  *
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
- * @param speed_max  output: largest speed, in degrees per second.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] speed_max  largest speed, in degrees per second.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_safety_limit_joint_speed_max_get(unsigned int robot_id, unsigned int joint,
                                                                         double* speed_max);
@@ -361,8 +344,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_safety_limit_joint_speed_max_get(unsigned
  *
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
- * @param acc_max  output: largest acceleration, in degrees per second squared.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] acc_max  largest acceleration, in degrees per second squared.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_safety_limit_joint_acc_max_get(unsigned int robot_id, unsigned int joint,
                                                                       double* acc_max);
@@ -371,9 +354,9 @@ QORIN_API QORIN_API_RESULT qorin_robot_safety_limit_joint_acc_max_get(unsigned i
  * The same as qorin_rpc_robot_safety_limit_velocity_in_reduced_mode_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param velocity_1  output: the limit that the control box sends second.
- * @param velocity_2  output: the limit that the control box sends first.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] velocity_1  the limit that the control box sends second.
+ * @param[out] velocity_2  the limit that the control box sends first.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_safety_limit_velocity_in_reduced_mode_get(unsigned int robot_id,
                                                                                  double* velocity_1,
@@ -384,8 +367,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_safety_limit_velocity_in_reduced_mode_get
  * was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param force  output: threshold.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] force  threshold.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT
 qorin_robot_safety_limit_collision_detection_tcp_force_in_reduced_mode_get(unsigned int robot_id, double* force);
@@ -396,8 +379,8 @@ qorin_robot_safety_limit_collision_detection_tcp_force_in_reduced_mode_get(unsig
  *
  * @param robot_id  robot, 0 or 1.
  * @param count  number of thresholds to read, below the robot's number of joints; 0 reads none.
- * @param torque  output: thresholds of the first `count` joints.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] torque  [count] thresholds of the first `count` joints.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_safety_limit_collision_detection_torque_in_reduced_mode_get(
     unsigned int robot_id, unsigned int count, double* torque);
@@ -406,8 +389,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_safety_limit_collision_detection_torque_i
  * The same as qorin_rpc_robot_safety_limit_tcp_bounding_shape_switch_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param shape_switch  output: on or off.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] shape_switch  on or off.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_safety_limit_tcp_bounding_shape_switch_get(unsigned int robot_id,
                                                                                   QORIN_SWITCH* shape_switch);
@@ -417,11 +400,11 @@ QORIN_API QORIN_API_RESULT qorin_robot_safety_limit_tcp_bounding_shape_switch_ge
  *
  * @param robot_id  robot, 0 or 1.
  * @param plane  plane id, 0 to 9.
- * @param norm_x  output: normal, component x.
- * @param norm_y  output: normal, component y.
- * @param norm_z  output: normal, component z.
- * @param distance  output: distance of the plane along the normal.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] norm_x  normal, component x.
+ * @param[out] norm_y  normal, component y.
+ * @param[out] norm_z  normal, component z.
+ * @param[out] distance  the constant term of the plane's equation with its sign turned, as it was set.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_safety_limit_plane_norm_distance_get(unsigned int robot_id, unsigned int plane,
                                                                             double* norm_x, double* norm_y,
@@ -432,12 +415,12 @@ QORIN_API QORIN_API_RESULT qorin_robot_safety_limit_plane_norm_distance_get(unsi
  *
  * @param robot_id  robot; not judged.
  * @param plane  plane id; not judged.
- * @param norm_x  not written.
- * @param norm_y  not written.
- * @param norm_z  not written.
- * @param origin_x  not written.
- * @param origin_y  not written.
- * @param origin_z  not written.
+ * @param[out] norm_x  not written.
+ * @param[out] norm_y  not written.
+ * @param[out] norm_z  not written.
+ * @param[out] origin_x  not written.
+ * @param[out] origin_y  not written.
+ * @param[out] origin_z  not written.
  * @return QORIN_API_RESULT_OK.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_safety_limit_plane_norm_origin_get(unsigned int robot_id, unsigned int plane,
@@ -449,8 +432,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_safety_limit_plane_norm_origin_get(unsign
  * The same as qorin_rpc_robot_collision_detection_switch_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param detection_switch  output: on or off.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] detection_switch  on or off.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_collision_detection_switch_get(unsigned int robot_id,
                                                                       QORIN_SWITCH* detection_switch);
@@ -460,8 +443,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_collision_detection_switch_get(unsigned i
  * asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param force  output: threshold.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] force  threshold.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_collision_detection_threshold_tcp_resultant_force_get(unsigned int robot_id,
                                                                                              double* force);
@@ -470,13 +453,13 @@ QORIN_API QORIN_API_RESULT qorin_robot_collision_detection_threshold_tcp_resulta
  * The same as qorin_rpc_robot_collision_detection_threshold_tcp_force_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param x  output: force threshold along x.
- * @param y  output: force threshold along y.
- * @param z  output: force threshold along z.
- * @param rx  output: torque threshold about x.
- * @param ry  output: torque threshold about y.
- * @param rz  output: torque threshold about z.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] x  force threshold along x.
+ * @param[out] y  force threshold along y.
+ * @param[out] z  force threshold along z.
+ * @param[out] rx  torque threshold about x.
+ * @param[out] ry  torque threshold about y.
+ * @param[out] rz  torque threshold about z.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_collision_detection_threshold_tcp_force_get(unsigned int robot_id, double* x,
                                                                                    double* y, double* z, double* rx,
@@ -487,8 +470,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_collision_detection_threshold_tcp_force_g
  *
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, below the robot's number of joints.
- * @param torque  output: threshold.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] torque  threshold.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_collision_detection_threshold_joint_torque_get(unsigned int robot_id,
                                                                                       unsigned int joint,
@@ -498,8 +481,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_collision_detection_threshold_joint_torqu
  * The same as qorin_rpc_robot_collision_mitigation_switch_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param mitigation_switch  output: on or off.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] mitigation_switch  on or off.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_collision_mitigation_switch_get(unsigned int robot_id,
                                                                        QORIN_SWITCH* mitigation_switch);

@@ -8,13 +8,20 @@
  * QORIN_API_RESULT_OK; an output pointer must not be null. A value that is no member of its enumeration is handed on as
  * it is.
  *
- * Robots. A robot exists when its id is 0 or 1, this process has created it with qorin_rpc_robot_create and has not
- * destroyed it, and the id is below the number of robots that the control box has. Else a getter returns
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID. A getter whose text says that the robot is known, not that it exists, does
- * not look at the number of robots. The robot is judged first, then any other index.
+ * Robots. A robot exists when its id is 0 or 1, this process has created it with qorin_rpc_robot_create() or attached
+ * it with qorin_robot_attach() and has not destroyed it, and the id is below the number of robots that the control box
+ * has. A getter whose text says that the robot is known, not that it exists, does not look at the number of robots. The
+ * robot is judged first, then any other index.
+ *
+ * Every robot getter returns
+ *   - QORIN_API_RESULT_OK: the outputs tell the state of the latest frame,
+ *   - QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected,
+ *   - QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist,
+ *
+ * and what its text adds.
  *
  * Joints are counted from 0. Most getters do not bound the joint, as their text says: a joint that the robot does not
- * have gives a number without meaning, and one that is far too large reads outside the mirror.
+ * have gives a number without meaning, and 0 where the mirror ends.
  *
  * Frames. The base frame stands at the foot of the robot, the flange frame on its last joint. The TCP frame is the
  * flange frame moved by the tool. A pose is a position x, y, z and an orientation rx, ry, rz: Euler angles, with
@@ -29,7 +36,8 @@
  * all zero, and no robot exists.
  *
  * Each getter has a local form without cbox_id, which reads the control box that was asked last, by any thread. So two
- * threads that read different control boxes at the same moment can read each other's.
+ * threads that read different control boxes at the same moment can read each other's. Every local form returns what its
+ * getter does, with QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
  */
 #ifndef QORIN_ROBOT_STATUS_H
 #define QORIN_ROBOT_STATUS_H
@@ -45,9 +53,8 @@ QORIN_API_C_BEGIN
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param model  output: a QORIN_ROBOT_MODEL value.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] model  a QORIN_ROBOT_MODEL value.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_model_name_get(unsigned int cbox_id, unsigned int robot_id,
                                                           QORIN_ROBOT_MODEL* model);
@@ -57,9 +64,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_model_name_get(unsigned int cbox_id, 
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param count  output: number of joints, at most 6.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] count  number of joints, at most 6.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_number_of_joints_get(unsigned int cbox_id, unsigned int robot_id,
                                                                 unsigned int* count);
@@ -69,9 +75,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_number_of_joints_get(unsigned int cbo
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param servo_switch  output: on or off.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] servo_switch  on or off.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_servo_switch_get(unsigned int cbox_id, unsigned int robot_id,
                                                             QORIN_SWITCH* servo_switch);
@@ -81,9 +86,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_servo_switch_get(unsigned int cbox_id
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param mode  output: a QORIN_DRIVE_CONTROL_MODE value.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] mode  a QORIN_DRIVE_CONTROL_MODE value.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_control_mode_get(unsigned int cbox_id, unsigned int robot_id,
                                                             QORIN_DRIVE_CONTROL_MODE* mode);
@@ -95,10 +99,9 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_control_mode_get(unsigned int cbox_id
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param control_switch  output: on when the drive control mode is QORIN_DRIVE_CONTROL_MODE_VELOCITY_PROFILE or
+ * @param[out] control_switch  on when the drive control mode is QORIN_DRIVE_CONTROL_MODE_VELOCITY_PROFILE or
  * QORIN_DRIVE_CONTROL_MODE_VELOCITY, else off.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_velocity_control_switch_get(unsigned int cbox_id, unsigned int robot_id,
                                                                        QORIN_SWITCH* control_switch);
@@ -110,9 +113,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_velocity_control_switch_get(unsigned 
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param teaching_switch  output: on when the drive control mode is QORIN_DRIVE_CONTROL_MODE_TORQUE, else off.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] teaching_switch  on when the drive control mode is QORIN_DRIVE_CONTROL_MODE_TORQUE, else off.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_direct_teaching_switch_get(unsigned int cbox_id, unsigned int robot_id,
                                                                       QORIN_SWITCH* teaching_switch);
@@ -122,9 +124,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_direct_teaching_switch_get(unsigned i
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param state  output: on while the robot follows streamed joint angles, else off.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] state  on while the robot follows streamed joint angles, else off.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_joint_chaser_state_get(unsigned int cbox_id, unsigned int robot_id,
                                                                   QORIN_SWITCH* state);
@@ -134,9 +135,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_joint_chaser_state_get(unsigned int c
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param state  output: a QORIN_MOVING_STATE value.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] state  a QORIN_MOVING_STATE value.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_state_moving_get(unsigned int cbox_id, unsigned int robot_id,
                                                             QORIN_MOVING_STATE* state);
@@ -146,9 +146,9 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_state_moving_get(unsigned int cbox_id
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param name  output: the name with its NUL; room for 32 bytes must be there. Bytes behind the NUL stay untouched.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] name  [32 text] the name with its NUL; room for 32 bytes must be there. Bytes behind the NUL stay
+ * untouched.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_current_motion_name_get(unsigned int cbox_id, unsigned int robot_id,
                                                                    char* name);
@@ -160,9 +160,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_current_motion_name_get(unsigned int 
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param speed_factor  output: override factor.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] speed_factor  override factor.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_speed_factor_get(unsigned int cbox_id, unsigned int robot_id,
                                                             double* speed_factor);
@@ -172,9 +171,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_speed_factor_get(unsigned int cbox_id
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param adjustment_switch  output: on or off.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] adjustment_switch  on or off.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_acc_dec_auto_adjustment_get(unsigned int cbox_id, unsigned int robot_id,
                                                                        QORIN_SWITCH* adjustment_switch);
@@ -186,9 +184,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_acc_dec_auto_adjustment_get(unsigned 
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param event_switch  output: on or off.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] event_switch  on or off.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_motion_command_robot_weaving_event_get(unsigned int cbox_id, unsigned int robot_id,
                                                                             QORIN_SWITCH* event_switch);
@@ -200,10 +197,9 @@ QORIN_API QORIN_API_RESULT qorin_rpc_motion_command_robot_weaving_event_get(unsi
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param mount_1  output: first mount angle, in degrees.
- * @param mount_2  output: second mount angle, in degrees.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] mount_1  first mount angle, in the unit in which it was set.
+ * @param[out] mount_2  second mount angle, in the unit in which it was set.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_installation_mount_get(unsigned int cbox_id, unsigned int robot_id,
                                                                   double* mount_1, double* mount_2);
@@ -213,12 +209,11 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_installation_mount_get(unsigned int c
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param mass  output: mass in kilograms.
- * @param center_x  output: centre of mass along x.
- * @param center_y  output: centre of mass along y.
- * @param center_z  output: centre of mass along z.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] mass  mass in kilograms.
+ * @param[out] center_x  centre of mass along x.
+ * @param[out] center_y  centre of mass along y.
+ * @param[out] center_z  centre of mass along z.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_tcp_payload_get(unsigned int cbox_id, unsigned int robot_id, double* mass,
                                                            double* center_x, double* center_y, double* center_z);
@@ -228,14 +223,13 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_tcp_payload_get(unsigned int cbox_id,
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param x  output: position along x.
- * @param y  output: position along y.
- * @param z  output: position along z.
- * @param rx  output: rotation about x, in degrees.
- * @param ry  output: rotation about y, in degrees.
- * @param rz  output: rotation about z, in degrees.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] x  position along x.
+ * @param[out] y  position along y.
+ * @param[out] z  position along z.
+ * @param[out] rx  rotation about x, in degrees.
+ * @param[out] ry  rotation about y, in degrees.
+ * @param[out] rz  rotation about z, in degrees.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_tcp_from_flange_get(unsigned int cbox_id, unsigned int robot_id, double* x,
                                                                double* y, double* z, double* rx, double* ry,
@@ -246,14 +240,13 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_tcp_from_flange_get(unsigned int cbox
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param x  output: position along x.
- * @param y  output: position along y.
- * @param z  output: position along z.
- * @param rx  output: rotation about x, in degrees.
- * @param ry  output: rotation about y, in degrees.
- * @param rz  output: rotation about z, in degrees.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] x  position along x.
+ * @param[out] y  position along y.
+ * @param[out] z  position along z.
+ * @param[out] rx  rotation about x, in degrees.
+ * @param[out] ry  rotation about y, in degrees.
+ * @param[out] rz  rotation about z, in degrees.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_tcp_pose_command_get(unsigned int cbox_id, unsigned int robot_id, double* x,
                                                                 double* y, double* z, double* rx, double* ry,
@@ -264,14 +257,13 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_tcp_pose_command_get(unsigned int cbo
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param x  output: position along x.
- * @param y  output: position along y.
- * @param z  output: position along z.
- * @param rx  output: rotation about x, in degrees.
- * @param ry  output: rotation about y, in degrees.
- * @param rz  output: rotation about z, in degrees.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] x  position along x.
+ * @param[out] y  position along y.
+ * @param[out] z  position along z.
+ * @param[out] rx  rotation about x, in degrees.
+ * @param[out] ry  rotation about y, in degrees.
+ * @param[out] rz  rotation about z, in degrees.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_tcp_pose_actual_get(unsigned int cbox_id, unsigned int robot_id, double* x,
                                                                double* y, double* z, double* rx, double* ry,
@@ -282,14 +274,13 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_tcp_pose_actual_get(unsigned int cbox
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param x  output: position along x.
- * @param y  output: position along y.
- * @param z  output: position along z.
- * @param rx  output: rotation about x, in degrees.
- * @param ry  output: rotation about y, in degrees.
- * @param rz  output: rotation about z, in degrees.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] x  position along x.
+ * @param[out] y  position along y.
+ * @param[out] z  position along z.
+ * @param[out] rx  rotation about x, in degrees.
+ * @param[out] ry  rotation about y, in degrees.
+ * @param[out] rz  rotation about z, in degrees.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_flange_pose_command_get(unsigned int cbox_id, unsigned int robot_id,
                                                                    double* x, double* y, double* z, double* rx,
@@ -300,14 +291,13 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_flange_pose_command_get(unsigned int 
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param x  output: position along x.
- * @param y  output: position along y.
- * @param z  output: position along z.
- * @param rx  output: rotation about x, in degrees.
- * @param ry  output: rotation about y, in degrees.
- * @param rz  output: rotation about z, in degrees.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] x  position along x.
+ * @param[out] y  position along y.
+ * @param[out] z  position along z.
+ * @param[out] rx  rotation about x, in degrees.
+ * @param[out] ry  rotation about y, in degrees.
+ * @param[out] rz  rotation about z, in degrees.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_flange_pose_actual_get(unsigned int cbox_id, unsigned int robot_id,
                                                                   double* x, double* y, double* z, double* rx,
@@ -318,11 +308,10 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_flange_pose_actual_get(unsigned int c
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param x  output: speed along x.
- * @param y  output: speed along y.
- * @param z  output: speed along z.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] x  speed along x.
+ * @param[out] y  speed along y.
+ * @param[out] z  speed along z.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_tcp_pos_speed_command_get(unsigned int cbox_id, unsigned int robot_id,
                                                                      double* x, double* y, double* z);
@@ -332,11 +321,10 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_tcp_pos_speed_command_get(unsigned in
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param rx  output: speed about x.
- * @param ry  output: speed about y.
- * @param rz  output: speed about z.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] rx  speed about x.
+ * @param[out] ry  speed about y.
+ * @param[out] rz  speed about z.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_tcp_ort_speed_command_get(unsigned int cbox_id, unsigned int robot_id,
                                                                      double* rx, double* ry, double* rz);
@@ -346,11 +334,10 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_tcp_ort_speed_command_get(unsigned in
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param x  output: speed along x.
- * @param y  output: speed along y.
- * @param z  output: speed along z.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] x  speed along x.
+ * @param[out] y  speed along y.
+ * @param[out] z  speed along z.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_tcp_pos_speed_actual_get(unsigned int cbox_id, unsigned int robot_id,
                                                                     double* x, double* y, double* z);
@@ -360,11 +347,10 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_tcp_pos_speed_actual_get(unsigned int
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param rx  output: speed about x.
- * @param ry  output: speed about y.
- * @param rz  output: speed about z.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] rx  speed about x.
+ * @param[out] ry  speed about y.
+ * @param[out] rz  speed about z.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_tcp_ort_speed_actual_get(unsigned int cbox_id, unsigned int robot_id,
                                                                     double* rx, double* ry, double* rz);
@@ -375,9 +361,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_tcp_ort_speed_actual_get(unsigned int
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
- * @param angle  output: angle in degrees.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] angle  angle in degrees.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_joint_angle_command_get(unsigned int cbox_id, unsigned int robot_id,
                                                                    unsigned int joint, double* angle);
@@ -388,9 +373,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_joint_angle_command_get(unsigned int 
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
- * @param angle  output: angle in degrees.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] angle  angle in degrees.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_joint_angle_actual_get(unsigned int cbox_id, unsigned int robot_id,
                                                                   unsigned int joint, double* angle);
@@ -401,9 +385,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_joint_angle_actual_get(unsigned int c
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
- * @param speed  output: speed in degrees per second.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] speed  speed in degrees per second.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_joint_speed_command_get(unsigned int cbox_id, unsigned int robot_id,
                                                                    unsigned int joint, double* speed);
@@ -414,9 +397,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_joint_speed_command_get(unsigned int 
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
- * @param speed  output: speed in degrees per second.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] speed  speed in degrees per second.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_joint_speed_actual_get(unsigned int cbox_id, unsigned int robot_id,
                                                                   unsigned int joint, double* speed);
@@ -427,9 +409,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_joint_speed_actual_get(unsigned int c
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
- * @param acc  output: acceleration in degrees per second squared.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] acc  acceleration in degrees per second squared.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_joint_acc_command_get(unsigned int cbox_id, unsigned int robot_id,
                                                                  unsigned int joint, double* acc);
@@ -440,9 +421,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_joint_acc_command_get(unsigned int cb
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
- * @param acc  output: acceleration in degrees per second squared.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] acc  acceleration in degrees per second squared.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_joint_acc_actual_get(unsigned int cbox_id, unsigned int robot_id,
                                                                 unsigned int joint, double* acc);
@@ -453,9 +433,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_joint_acc_actual_get(unsigned int cbo
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
- * @param torque  output: torque.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] torque  torque that the drive reports, in the control box's unit.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_joint_torque_actual_get(unsigned int cbox_id, unsigned int robot_id,
                                                                    unsigned int joint, double* torque);
@@ -466,10 +445,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_joint_torque_actual_get(unsigned int 
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, below the robot's number of joints.
- * @param velocity  output: speed in degrees per second.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist;
- * QORIN_API_RESULT_ERROR_ROBOT_JOINT_INDEX_OUT_OF_RANGE when joint is out of range.
+ * @param[out] velocity  speed in degrees per second.
+ * @return as every robot getter; QORIN_API_RESULT_ERROR_ROBOT_JOINT_INDEX_OUT_OF_RANGE when joint is out of range.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_joint_target_velocity_get(unsigned int cbox_id, unsigned int robot_id,
                                                                      unsigned int joint, double* velocity);
@@ -480,10 +457,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_joint_target_velocity_get(unsigned in
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, below the robot's number of joints.
- * @param velocity  output: speed in revolutions per minute.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist;
- * QORIN_API_RESULT_ERROR_ROBOT_JOINT_INDEX_OUT_OF_RANGE when joint is out of range.
+ * @param[out] velocity  speed in revolutions per minute.
+ * @return as every robot getter; QORIN_API_RESULT_ERROR_ROBOT_JOINT_INDEX_OUT_OF_RANGE when joint is out of range.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_joint_target_velocity_rpm_get(unsigned int cbox_id, unsigned int robot_id,
                                                                          unsigned int joint, double* velocity);
@@ -494,10 +469,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_joint_target_velocity_rpm_get(unsigne
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, below the robot's number of joints.
- * @param acceleration  output: acceleration in degrees per second squared.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist;
- * QORIN_API_RESULT_ERROR_ROBOT_JOINT_INDEX_OUT_OF_RANGE when joint is out of range.
+ * @param[out] acceleration  acceleration in degrees per second squared.
+ * @return as every robot getter; QORIN_API_RESULT_ERROR_ROBOT_JOINT_INDEX_OUT_OF_RANGE when joint is out of range.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_joint_target_acceleration_get(unsigned int cbox_id, unsigned int robot_id,
                                                                          unsigned int joint, double* acceleration);
@@ -508,10 +481,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_joint_target_acceleration_get(unsigne
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, below the robot's number of joints.
- * @param acceleration  output: acceleration in revolutions per minute, per second.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist;
- * QORIN_API_RESULT_ERROR_ROBOT_JOINT_INDEX_OUT_OF_RANGE when joint is out of range.
+ * @param[out] acceleration  acceleration in revolutions per minute, per second.
+ * @return as every robot getter; QORIN_API_RESULT_ERROR_ROBOT_JOINT_INDEX_OUT_OF_RANGE when joint is out of range.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_joint_target_acceleration_rpm_get(unsigned int cbox_id,
                                                                              unsigned int robot_id, unsigned int joint,
@@ -523,9 +494,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_joint_target_acceleration_rpm_get(uns
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
- * @param temperature  output: temperature, as the drive gives it.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] temperature  temperature, as the drive gives it.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_joint_temperature_get(unsigned int cbox_id, unsigned int robot_id,
                                                                  unsigned int joint, double* temperature);
@@ -536,9 +506,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_joint_temperature_get(unsigned int cb
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
- * @param voltage  output: voltage, as the drive gives it.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] voltage  voltage, as the drive gives it.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_joint_voltage_get(unsigned int cbox_id, unsigned int robot_id,
                                                              unsigned int joint, double* voltage);
@@ -549,9 +518,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_joint_voltage_get(unsigned int cbox_i
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
- * @param current  output: current, as the drive gives it.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] current  current, as the drive gives it.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_joint_current_get(unsigned int cbox_id, unsigned int robot_id,
                                                              unsigned int joint, double* current);
@@ -562,12 +530,11 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_joint_current_get(unsigned int cbox_i
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
- * @param code_1  output: first word.
- * @param code_2  output: second word.
- * @param code_3  output: third word.
- * @param code_4  output: fourth word.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] code_1  first word.
+ * @param[out] code_2  second word.
+ * @param[out] code_3  third word.
+ * @param[out] code_4  fourth word.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_joint_error_code_get(unsigned int cbox_id, unsigned int robot_id,
                                                                 unsigned int joint, unsigned short* code_1,
@@ -580,9 +547,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_joint_error_code_get(unsigned int cbo
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
- * @param feedrate  output: feed rate.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] feedrate  feed rate.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_dynamics_friction_feedrate_get(unsigned int cbox_id, unsigned int robot_id,
                                                                           unsigned int joint, double* feedrate);
@@ -593,9 +559,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_dynamics_friction_feedrate_get(unsign
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
- * @param ratio  output: ratio.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] ratio  ratio of the velocity feed-forward, as the control box scales it.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_ts_robot_joint_velocity_feedforward_ratio_get(unsigned int cbox_id,
                                                                                    unsigned int robot_id,
@@ -607,9 +572,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_ts_robot_joint_velocity_feedforward_ratio_g
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
- * @param ratio  output: ratio.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] ratio  ratio of the torque feed-forward, as the control box scales it.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_ts_robot_joint_torque_feedforward_ratio_get(unsigned int cbox_id,
                                                                                  unsigned int robot_id,
@@ -620,9 +584,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_ts_robot_joint_torque_feedforward_ratio_get
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param speed_max  output: largest speed.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] speed_max  largest speed.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_spec_tcp_speed_max_get(unsigned int cbox_id, unsigned int robot_id,
                                                                   double* speed_max);
@@ -632,9 +595,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_spec_tcp_speed_max_get(unsigned int c
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param acc_max  output: largest acceleration.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] acc_max  largest acceleration.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_spec_tcp_acc_max_get(unsigned int cbox_id, unsigned int robot_id,
                                                                 double* acc_max);
@@ -645,10 +607,9 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_spec_tcp_acc_max_get(unsigned int cbo
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
- * @param angle_1  output: one end of the range, in degrees; the one that the control box sends second.
- * @param angle_2  output: the other end, in degrees; the one that the control box sends first.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] angle_1  one end of the range, in degrees; the one that the control box sends second.
+ * @param[out] angle_2  the other end, in degrees; the one that the control box sends first.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_spec_joint_angle_get(unsigned int cbox_id, unsigned int robot_id,
                                                                 unsigned int joint, double* angle_1, double* angle_2);
@@ -659,9 +620,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_spec_joint_angle_get(unsigned int cbo
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
- * @param speed_max  output: largest speed, in degrees per second.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] speed_max  largest speed, in degrees per second.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_spec_joint_speed_max_get(unsigned int cbox_id, unsigned int robot_id,
                                                                     unsigned int joint, double* speed_max);
@@ -672,9 +632,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_spec_joint_speed_max_get(unsigned int
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
- * @param acc_max  output: largest acceleration, in degrees per second squared.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] acc_max  largest acceleration, in degrees per second squared.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_spec_joint_acc_max_get(unsigned int cbox_id, unsigned int robot_id,
                                                                   unsigned int joint, double* acc_max);
@@ -683,8 +642,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_spec_joint_acc_max_get(unsigned int c
  * The same as qorin_rpc_robot_model_name_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param model  output: a QORIN_ROBOT_MODEL value.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] model  a QORIN_ROBOT_MODEL value.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_model_name_get(unsigned int robot_id, QORIN_ROBOT_MODEL* model);
 
@@ -692,8 +651,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_model_name_get(unsigned int robot_id, QOR
  * The same as qorin_rpc_robot_number_of_joints_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param count  output: number of joints, at most 6.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] count  number of joints, at most 6.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_number_of_joints_get(unsigned int robot_id, unsigned int* count);
 
@@ -701,8 +660,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_number_of_joints_get(unsigned int robot_i
  * The same as qorin_rpc_robot_servo_switch_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param servo_switch  output: on or off.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] servo_switch  on or off.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_servo_switch_get(unsigned int robot_id, QORIN_SWITCH* servo_switch);
 
@@ -710,8 +669,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_servo_switch_get(unsigned int robot_id, Q
  * The same as qorin_rpc_robot_control_mode_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param mode  output: a QORIN_DRIVE_CONTROL_MODE value.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] mode  a QORIN_DRIVE_CONTROL_MODE value.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_control_mode_get(unsigned int robot_id, QORIN_DRIVE_CONTROL_MODE* mode);
 
@@ -719,9 +678,9 @@ QORIN_API QORIN_API_RESULT qorin_robot_control_mode_get(unsigned int robot_id, Q
  * The same as qorin_rpc_robot_velocity_control_switch_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param control_switch  output: on when the drive control mode is QORIN_DRIVE_CONTROL_MODE_VELOCITY_PROFILE or
+ * @param[out] control_switch  on when the drive control mode is QORIN_DRIVE_CONTROL_MODE_VELOCITY_PROFILE or
  * QORIN_DRIVE_CONTROL_MODE_VELOCITY, else off.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_velocity_control_switch_get(unsigned int robot_id, QORIN_SWITCH* control_switch);
 
@@ -729,8 +688,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_velocity_control_switch_get(unsigned int 
  * The same as qorin_rpc_robot_direct_teaching_switch_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param teaching_switch  output: on when the drive control mode is QORIN_DRIVE_CONTROL_MODE_TORQUE, else off.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] teaching_switch  on when the drive control mode is QORIN_DRIVE_CONTROL_MODE_TORQUE, else off.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_direct_teaching_switch_get(unsigned int robot_id, QORIN_SWITCH* teaching_switch);
 
@@ -738,8 +697,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_direct_teaching_switch_get(unsigned int r
  * The same as qorin_rpc_robot_joint_chaser_state_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param state  output: on while the robot follows streamed joint angles, else off.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] state  on while the robot follows streamed joint angles, else off.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_joint_chaser_state_get(unsigned int robot_id, QORIN_SWITCH* state);
 
@@ -747,8 +706,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_joint_chaser_state_get(unsigned int robot
  * The same as qorin_rpc_robot_state_moving_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param state  output: a QORIN_MOVING_STATE value.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] state  a QORIN_MOVING_STATE value.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_state_moving_get(unsigned int robot_id, QORIN_MOVING_STATE* state);
 
@@ -756,8 +715,9 @@ QORIN_API QORIN_API_RESULT qorin_robot_state_moving_get(unsigned int robot_id, Q
  * The same as qorin_rpc_robot_current_motion_name_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param name  output: the name with its NUL; room for 32 bytes must be there. Bytes behind the NUL stay untouched.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] name  [32 text] the name with its NUL; room for 32 bytes must be there. Bytes behind the NUL stay
+ * untouched.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_current_motion_name_get(unsigned int robot_id, char* name);
 
@@ -765,8 +725,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_current_motion_name_get(unsigned int robo
  * The same as qorin_rpc_robot_speed_factor_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param speed_factor  output: override factor.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] speed_factor  override factor.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_speed_factor_get(unsigned int robot_id, double* speed_factor);
 
@@ -774,8 +734,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_speed_factor_get(unsigned int robot_id, d
  * The same as qorin_rpc_robot_acc_dec_auto_adjustment_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param adjustment_switch  output: on or off.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] adjustment_switch  on or off.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_acc_dec_auto_adjustment_get(unsigned int robot_id,
                                                                    QORIN_SWITCH* adjustment_switch);
@@ -784,8 +744,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_acc_dec_auto_adjustment_get(unsigned int 
  * The same as qorin_rpc_motion_command_robot_weaving_event_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param event_switch  output: on or off.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] event_switch  on or off.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_motion_command_robot_weaving_event_get(unsigned int robot_id,
                                                                         QORIN_SWITCH* event_switch);
@@ -794,9 +754,9 @@ QORIN_API QORIN_API_RESULT qorin_motion_command_robot_weaving_event_get(unsigned
  * The same as qorin_rpc_robot_installation_mount_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param mount_1  output: first mount angle, in degrees.
- * @param mount_2  output: second mount angle, in degrees.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] mount_1  first mount angle, in the unit in which it was set.
+ * @param[out] mount_2  second mount angle, in the unit in which it was set.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_installation_mount_get(unsigned int robot_id, double* mount_1, double* mount_2);
 
@@ -804,11 +764,11 @@ QORIN_API QORIN_API_RESULT qorin_robot_installation_mount_get(unsigned int robot
  * The same as qorin_rpc_robot_tcp_payload_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param mass  output: mass in kilograms.
- * @param center_x  output: centre of mass along x.
- * @param center_y  output: centre of mass along y.
- * @param center_z  output: centre of mass along z.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] mass  mass in kilograms.
+ * @param[out] center_x  centre of mass along x.
+ * @param[out] center_y  centre of mass along y.
+ * @param[out] center_z  centre of mass along z.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_tcp_payload_get(unsigned int robot_id, double* mass, double* center_x,
                                                        double* center_y, double* center_z);
@@ -817,13 +777,13 @@ QORIN_API QORIN_API_RESULT qorin_robot_tcp_payload_get(unsigned int robot_id, do
  * The same as qorin_rpc_robot_tcp_from_flange_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param x  output: position along x.
- * @param y  output: position along y.
- * @param z  output: position along z.
- * @param rx  output: rotation about x, in degrees.
- * @param ry  output: rotation about y, in degrees.
- * @param rz  output: rotation about z, in degrees.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] x  position along x.
+ * @param[out] y  position along y.
+ * @param[out] z  position along z.
+ * @param[out] rx  rotation about x, in degrees.
+ * @param[out] ry  rotation about y, in degrees.
+ * @param[out] rz  rotation about z, in degrees.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_tcp_from_flange_get(unsigned int robot_id, double* x, double* y, double* z,
                                                            double* rx, double* ry, double* rz);
@@ -832,13 +792,13 @@ QORIN_API QORIN_API_RESULT qorin_robot_tcp_from_flange_get(unsigned int robot_id
  * The same as qorin_rpc_robot_tcp_pose_command_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param x  output: position along x.
- * @param y  output: position along y.
- * @param z  output: position along z.
- * @param rx  output: rotation about x, in degrees.
- * @param ry  output: rotation about y, in degrees.
- * @param rz  output: rotation about z, in degrees.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] x  position along x.
+ * @param[out] y  position along y.
+ * @param[out] z  position along z.
+ * @param[out] rx  rotation about x, in degrees.
+ * @param[out] ry  rotation about y, in degrees.
+ * @param[out] rz  rotation about z, in degrees.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_tcp_pose_command_get(unsigned int robot_id, double* x, double* y, double* z,
                                                             double* rx, double* ry, double* rz);
@@ -847,13 +807,13 @@ QORIN_API QORIN_API_RESULT qorin_robot_tcp_pose_command_get(unsigned int robot_i
  * The same as qorin_rpc_robot_tcp_pose_actual_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param x  output: position along x.
- * @param y  output: position along y.
- * @param z  output: position along z.
- * @param rx  output: rotation about x, in degrees.
- * @param ry  output: rotation about y, in degrees.
- * @param rz  output: rotation about z, in degrees.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] x  position along x.
+ * @param[out] y  position along y.
+ * @param[out] z  position along z.
+ * @param[out] rx  rotation about x, in degrees.
+ * @param[out] ry  rotation about y, in degrees.
+ * @param[out] rz  rotation about z, in degrees.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_tcp_pose_actual_get(unsigned int robot_id, double* x, double* y, double* z,
                                                            double* rx, double* ry, double* rz);
@@ -862,13 +822,13 @@ QORIN_API QORIN_API_RESULT qorin_robot_tcp_pose_actual_get(unsigned int robot_id
  * The same as qorin_rpc_robot_flange_pose_command_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param x  output: position along x.
- * @param y  output: position along y.
- * @param z  output: position along z.
- * @param rx  output: rotation about x, in degrees.
- * @param ry  output: rotation about y, in degrees.
- * @param rz  output: rotation about z, in degrees.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] x  position along x.
+ * @param[out] y  position along y.
+ * @param[out] z  position along z.
+ * @param[out] rx  rotation about x, in degrees.
+ * @param[out] ry  rotation about y, in degrees.
+ * @param[out] rz  rotation about z, in degrees.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_flange_pose_command_get(unsigned int robot_id, double* x, double* y, double* z,
                                                                double* rx, double* ry, double* rz);
@@ -877,13 +837,13 @@ QORIN_API QORIN_API_RESULT qorin_robot_flange_pose_command_get(unsigned int robo
  * The same as qorin_rpc_robot_flange_pose_actual_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param x  output: position along x.
- * @param y  output: position along y.
- * @param z  output: position along z.
- * @param rx  output: rotation about x, in degrees.
- * @param ry  output: rotation about y, in degrees.
- * @param rz  output: rotation about z, in degrees.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] x  position along x.
+ * @param[out] y  position along y.
+ * @param[out] z  position along z.
+ * @param[out] rx  rotation about x, in degrees.
+ * @param[out] ry  rotation about y, in degrees.
+ * @param[out] rz  rotation about z, in degrees.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_flange_pose_actual_get(unsigned int robot_id, double* x, double* y, double* z,
                                                               double* rx, double* ry, double* rz);
@@ -892,10 +852,10 @@ QORIN_API QORIN_API_RESULT qorin_robot_flange_pose_actual_get(unsigned int robot
  * The same as qorin_rpc_robot_tcp_pos_speed_command_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param x  output: speed along x.
- * @param y  output: speed along y.
- * @param z  output: speed along z.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] x  speed along x.
+ * @param[out] y  speed along y.
+ * @param[out] z  speed along z.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_tcp_pos_speed_command_get(unsigned int robot_id, double* x, double* y,
                                                                  double* z);
@@ -904,10 +864,10 @@ QORIN_API QORIN_API_RESULT qorin_robot_tcp_pos_speed_command_get(unsigned int ro
  * The same as qorin_rpc_robot_tcp_ort_speed_command_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param rx  output: speed about x.
- * @param ry  output: speed about y.
- * @param rz  output: speed about z.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] rx  speed about x.
+ * @param[out] ry  speed about y.
+ * @param[out] rz  speed about z.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_tcp_ort_speed_command_get(unsigned int robot_id, double* rx, double* ry,
                                                                  double* rz);
@@ -916,10 +876,10 @@ QORIN_API QORIN_API_RESULT qorin_robot_tcp_ort_speed_command_get(unsigned int ro
  * The same as qorin_rpc_robot_tcp_pos_speed_actual_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param x  output: speed along x.
- * @param y  output: speed along y.
- * @param z  output: speed along z.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] x  speed along x.
+ * @param[out] y  speed along y.
+ * @param[out] z  speed along z.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_tcp_pos_speed_actual_get(unsigned int robot_id, double* x, double* y, double* z);
 
@@ -927,10 +887,10 @@ QORIN_API QORIN_API_RESULT qorin_robot_tcp_pos_speed_actual_get(unsigned int rob
  * The same as qorin_rpc_robot_tcp_ort_speed_actual_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param rx  output: speed about x.
- * @param ry  output: speed about y.
- * @param rz  output: speed about z.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] rx  speed about x.
+ * @param[out] ry  speed about y.
+ * @param[out] rz  speed about z.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_tcp_ort_speed_actual_get(unsigned int robot_id, double* rx, double* ry,
                                                                 double* rz);
@@ -940,8 +900,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_tcp_ort_speed_actual_get(unsigned int rob
  *
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
- * @param angle  output: angle in degrees.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] angle  angle in degrees.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_joint_angle_command_get(unsigned int robot_id, unsigned int joint,
                                                                double* angle);
@@ -951,8 +911,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_joint_angle_command_get(unsigned int robo
  *
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
- * @param angle  output: angle in degrees.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] angle  angle in degrees.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_joint_angle_actual_get(unsigned int robot_id, unsigned int joint, double* angle);
 
@@ -961,8 +921,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_joint_angle_actual_get(unsigned int robot
  *
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
- * @param speed  output: speed in degrees per second.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] speed  speed in degrees per second.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_joint_speed_command_get(unsigned int robot_id, unsigned int joint,
                                                                double* speed);
@@ -972,8 +932,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_joint_speed_command_get(unsigned int robo
  *
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
- * @param speed  output: speed in degrees per second.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] speed  speed in degrees per second.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_joint_speed_actual_get(unsigned int robot_id, unsigned int joint, double* speed);
 
@@ -982,8 +942,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_joint_speed_actual_get(unsigned int robot
  *
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
- * @param acc  output: acceleration in degrees per second squared.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] acc  acceleration in degrees per second squared.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_joint_acc_command_get(unsigned int robot_id, unsigned int joint, double* acc);
 
@@ -992,8 +952,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_joint_acc_command_get(unsigned int robot_
  *
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
- * @param acc  output: acceleration in degrees per second squared.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] acc  acceleration in degrees per second squared.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_joint_acc_actual_get(unsigned int robot_id, unsigned int joint, double* acc);
 
@@ -1002,8 +962,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_joint_acc_actual_get(unsigned int robot_i
  *
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
- * @param torque  output: torque.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] torque  torque that the drive reports, in the control box's unit.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_joint_torque_actual_get(unsigned int robot_id, unsigned int joint,
                                                                double* torque);
@@ -1013,8 +973,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_joint_torque_actual_get(unsigned int robo
  *
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, below the robot's number of joints.
- * @param velocity  output: speed in degrees per second.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] velocity  speed in degrees per second.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_joint_target_velocity_get(unsigned int robot_id, unsigned int joint,
                                                                  double* velocity);
@@ -1024,8 +984,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_joint_target_velocity_get(unsigned int ro
  *
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, below the robot's number of joints.
- * @param velocity  output: speed in revolutions per minute.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] velocity  speed in revolutions per minute.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_joint_target_velocity_rpm_get(unsigned int robot_id, unsigned int joint,
                                                                      double* velocity);
@@ -1035,8 +995,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_joint_target_velocity_rpm_get(unsigned in
  *
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, below the robot's number of joints.
- * @param acceleration  output: acceleration in degrees per second squared.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] acceleration  acceleration in degrees per second squared.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_joint_target_acceleration_get(unsigned int robot_id, unsigned int joint,
                                                                      double* acceleration);
@@ -1046,8 +1006,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_joint_target_acceleration_get(unsigned in
  *
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, below the robot's number of joints.
- * @param acceleration  output: acceleration in revolutions per minute, per second.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] acceleration  acceleration in revolutions per minute, per second.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_joint_target_acceleration_rpm_get(unsigned int robot_id, unsigned int joint,
                                                                          double* acceleration);
@@ -1057,8 +1017,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_joint_target_acceleration_rpm_get(unsigne
  *
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
- * @param temperature  output: temperature, as the drive gives it.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] temperature  temperature, as the drive gives it.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_joint_temperature_get(unsigned int robot_id, unsigned int joint,
                                                              double* temperature);
@@ -1068,8 +1028,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_joint_temperature_get(unsigned int robot_
  *
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
- * @param voltage  output: voltage, as the drive gives it.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] voltage  voltage, as the drive gives it.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_joint_voltage_get(unsigned int robot_id, unsigned int joint, double* voltage);
 
@@ -1078,8 +1038,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_joint_voltage_get(unsigned int robot_id, 
  *
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
- * @param current  output: current, as the drive gives it.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] current  current, as the drive gives it.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_joint_current_get(unsigned int robot_id, unsigned int joint, double* current);
 
@@ -1088,11 +1048,11 @@ QORIN_API QORIN_API_RESULT qorin_robot_joint_current_get(unsigned int robot_id, 
  *
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
- * @param code_1  output: first word.
- * @param code_2  output: second word.
- * @param code_3  output: third word.
- * @param code_4  output: fourth word.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] code_1  first word.
+ * @param[out] code_2  second word.
+ * @param[out] code_3  third word.
+ * @param[out] code_4  fourth word.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_joint_error_code_get(unsigned int robot_id, unsigned int joint,
                                                             unsigned short* code_1, unsigned short* code_2,
@@ -1103,8 +1063,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_joint_error_code_get(unsigned int robot_i
  *
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
- * @param feedrate  output: feed rate.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] feedrate  feed rate.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_dynamics_friction_feedrate_get(unsigned int robot_id, unsigned int joint,
                                                                       double* feedrate);
@@ -1114,8 +1074,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_dynamics_friction_feedrate_get(unsigned i
  *
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
- * @param ratio  output: ratio.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] ratio  ratio of the velocity feed-forward, as the control box scales it.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_ts_robot_joint_velocity_feedforward_ratio_get(unsigned int robot_id,
                                                                                unsigned int joint, double* ratio);
@@ -1125,8 +1085,8 @@ QORIN_API QORIN_API_RESULT qorin_ts_robot_joint_velocity_feedforward_ratio_get(u
  *
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
- * @param ratio  output: ratio.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] ratio  ratio of the torque feed-forward, as the control box scales it.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_ts_robot_joint_torque_feedforward_ratio_get(unsigned int robot_id, unsigned int joint,
                                                                              double* ratio);
@@ -1135,8 +1095,8 @@ QORIN_API QORIN_API_RESULT qorin_ts_robot_joint_torque_feedforward_ratio_get(uns
  * The same as qorin_rpc_robot_spec_tcp_speed_max_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param speed_max  output: largest speed.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] speed_max  largest speed.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_spec_tcp_speed_max_get(unsigned int robot_id, double* speed_max);
 
@@ -1144,8 +1104,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_spec_tcp_speed_max_get(unsigned int robot
  * The same as qorin_rpc_robot_spec_tcp_acc_max_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param acc_max  output: largest acceleration.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] acc_max  largest acceleration.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_spec_tcp_acc_max_get(unsigned int robot_id, double* acc_max);
 
@@ -1154,9 +1114,9 @@ QORIN_API QORIN_API_RESULT qorin_robot_spec_tcp_acc_max_get(unsigned int robot_i
  *
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
- * @param angle_1  output: one end of the range, in degrees; the one that the control box sends second.
- * @param angle_2  output: the other end, in degrees; the one that the control box sends first.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] angle_1  one end of the range, in degrees; the one that the control box sends second.
+ * @param[out] angle_2  the other end, in degrees; the one that the control box sends first.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_spec_joint_angle_get(unsigned int robot_id, unsigned int joint, double* angle_1,
                                                             double* angle_2);
@@ -1166,8 +1126,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_spec_joint_angle_get(unsigned int robot_i
  *
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
- * @param speed_max  output: largest speed, in degrees per second.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] speed_max  largest speed, in degrees per second.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_spec_joint_speed_max_get(unsigned int robot_id, unsigned int joint,
                                                                 double* speed_max);
@@ -1177,8 +1137,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_spec_joint_speed_max_get(unsigned int rob
  *
  * @param robot_id  robot, 0 or 1.
  * @param joint  joint, 0 for the first. Not bounded: beyond the joints of the robot it reads other state.
- * @param acc_max  output: largest acceleration, in degrees per second squared.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] acc_max  largest acceleration, in degrees per second squared.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_spec_joint_acc_max_get(unsigned int robot_id, unsigned int joint,
                                                               double* acc_max);

@@ -45,8 +45,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_tool_io_digital_output_set(unsigned i
  * @param cbox_id   control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot id, 0 or 1.
  * @param count     number of channels; no more than 32 travel.
- * @param channels  channel numbers; 32 numbers are read whatever the count says.
- * @param values    0 or 1 for each channel; 32 numbers are read.
+ * @param channels  [count] channel numbers; 32 numbers are read whatever the count says.
+ * @param values    [count] 0 or 1 for each channel; 32 numbers are read.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_tool_io_digital_output_multiple_set(unsigned int cbox_id,
@@ -120,7 +120,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_tool_io_led_color_set(unsigned int cb
  * @param serial_interface  electrical interface.
  * @param baudrate          speed of the line.
  * @param data_frame        data bits, parity and stop bits.
- * @param protocol          protocol.
+ * @param protocol          what is spoken on the line; a QORIN_RS485_PROTOCOL value.
  * @param setup_switch      QORIN_SWITCH_ON or QORIN_SWITCH_OFF.
  * @param value             a number whose meaning the control box defines.
  * @return as every command.
@@ -149,7 +149,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_tool_io_rs485_control_cmd(unsigned in
  * @param cbox_id   control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot id, 0 or 1.
  * @param size      number of bytes.
- * @param data      bytes to send; 128 are read whatever the size says, though the status mirror and its getter know 64.
+ * @param data      [size] bytes to send; 128 are read whatever the size says, though the status mirror and its getter
+ *                  know 64.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_tool_io_rs485_io_tx_data_set(unsigned int cbox_id, unsigned int robot_id,
@@ -158,15 +159,15 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_tool_io_rs485_io_tx_data_set(unsigned
 /**
  * Reads from a Modbus RTU device.
  *
- * @param cbox_id   control box id from qorin_rpc_system_cbox_connect().
- * @param robot_id  robot id, 0 or 1.
- * @param value_1   first of five numbers of the transfer; the control box defines them.
- * @param value_2   second number.
- * @param value_3   third number.
- * @param value_4   fourth number.
- * @param value_5   fifth number.
- * @param data      output: 4 bytes, no more of the answer comes back; needs room for 4 bytes. 128 bytes are read from
- *                  it, as from every output.
+ * @param cbox_id    control box id from qorin_rpc_system_cbox_connect().
+ * @param robot_id   robot id, 0 or 1.
+ * @param value_1    first of five numbers of the transfer; the control box defines them.
+ * @param value_2    second of these.
+ * @param value_3    third of these.
+ * @param value_4    fourth of these.
+ * @param value_5    fifth of these.
+ * @param[out] data  [4] 4 bytes, no more of the answer comes back; needs room for 4 bytes. 128 bytes are read from it,
+ *                   as from every output.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_tool_io_rs485_modbus_rtu_read(unsigned int cbox_id, unsigned int robot_id,
@@ -182,11 +183,11 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_tool_io_rs485_modbus_rtu_read(unsigne
  * @param cbox_id   control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot id, 0 or 1.
  * @param value_1   first of five numbers of the transfer; the control box defines them.
- * @param value_2   second number.
- * @param value_3   third number.
- * @param value_4   fourth number.
- * @param value_5   fifth number.
- * @param data      what to write; 128 bytes are read.
+ * @param value_2   second of these.
+ * @param value_3   third of these.
+ * @param value_4   fourth of these.
+ * @param value_5   fifth of these.
+ * @param data      [128] what to write; 128 bytes are read.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_tool_io_rs485_modbus_rtu_write(unsigned int cbox_id, unsigned int robot_id,

@@ -21,10 +21,8 @@ QORIN_API_C_BEGIN
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
  * @param channel  channel, 0 to 3.
- * @param value  output: 0 or 1.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist; QORIN_API_RESULT_ERROR_ROBOT_INVALID_IO_NUMBER
- * when channel is out of range.
+ * @param[out] value  0 or 1.
+ * @return as every robot getter; QORIN_API_RESULT_ERROR_ROBOT_INVALID_IO_NUMBER when channel is out of range.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_tool_io_digital_input_get(unsigned int cbox_id, unsigned int robot_id,
                                                                      unsigned int channel, unsigned int* value);
@@ -35,10 +33,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_tool_io_digital_input_get(unsigned in
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
  * @param channel  channel, 0 to 3.
- * @param value  output: 0 or 1.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist; QORIN_API_RESULT_ERROR_ROBOT_INVALID_IO_NUMBER
- * when channel is out of range.
+ * @param[out] value  0 or 1.
+ * @return as every robot getter; QORIN_API_RESULT_ERROR_ROBOT_INVALID_IO_NUMBER when channel is out of range.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_tool_io_digital_output_get(unsigned int cbox_id, unsigned int robot_id,
                                                                       unsigned int channel, unsigned int* value);
@@ -49,10 +45,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_tool_io_digital_output_get(unsigned i
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
  * @param channel  channel, 0 to 1.
- * @param value  output: value in the control box's unit for the channel's mode.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist; QORIN_API_RESULT_ERROR_ROBOT_INVALID_IO_NUMBER
- * when channel is out of range.
+ * @param[out] value  value in the control box's unit for the channel's mode.
+ * @return as every robot getter; QORIN_API_RESULT_ERROR_ROBOT_INVALID_IO_NUMBER when channel is out of range.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_tool_io_analog_input_get(unsigned int cbox_id, unsigned int robot_id,
                                                                     unsigned int channel, double* value);
@@ -63,10 +57,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_tool_io_analog_input_get(unsigned int
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
  * @param channel  channel, 0 to 1.
- * @param value  output: value, as the module gives it.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist; QORIN_API_RESULT_ERROR_ROBOT_INVALID_IO_NUMBER
- * when channel is out of range.
+ * @param[out] value  value, as the module gives it.
+ * @return as every robot getter; QORIN_API_RESULT_ERROR_ROBOT_INVALID_IO_NUMBER when channel is out of range.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_tool_io_analog_output_get(unsigned int cbox_id, unsigned int robot_id,
                                                                      unsigned int channel, double* value);
@@ -77,12 +69,10 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_tool_io_analog_output_get(unsigned in
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
  * @param channel  channel, 0 to 1.
- * @param mode  output: voltage or current.
- * @param range  neither read nor written: the status mirror holds no range.
- * @param range_value  neither read nor written.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist; QORIN_API_RESULT_ERROR_ROBOT_INVALID_IO_NUMBER
- * when channel is out of range.
+ * @param[out] mode  voltage or current.
+ * @param[out] range  neither read nor written: the status mirror holds no range.
+ * @param[out] range_value  neither read nor written.
+ * @return as every robot getter; QORIN_API_RESULT_ERROR_ROBOT_INVALID_IO_NUMBER when channel is out of range.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_tool_io_analog_input_mode_get(unsigned int cbox_id, unsigned int robot_id,
                                                                          unsigned int channel,
@@ -94,10 +84,9 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_tool_io_analog_input_mode_get(unsigne
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param voltage  output: the supply voltage, a QORIN_TOOL_IO_POWER_VOLTAGE_OPTION value.
- * @param current  output: supply current.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] voltage  the supply voltage, a QORIN_TOOL_IO_POWER_VOLTAGE_OPTION value.
+ * @param[out] current  supply current.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_tool_io_power_voltage_current_get(unsigned int cbox_id,
                                                                              unsigned int robot_id,
@@ -110,11 +99,10 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_tool_io_power_voltage_current_get(uns
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot, 0 or 1.
- * @param color_1  output: first colour value.
- * @param color_2  output: second colour value.
- * @param color_3  output: third colour value.
- * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
- * QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when the robot does not exist.
+ * @param[out] color_1  first colour value.
+ * @param[out] color_2  second colour value.
+ * @param[out] color_3  third colour value.
+ * @return as every robot getter.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_tool_io_led_color_get(unsigned int cbox_id, unsigned int robot_id,
                                                                  unsigned int* color_1, unsigned int* color_2,
@@ -127,12 +115,12 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_tool_io_led_color_get(unsigned int cb
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot; not judged, since there is one RS485 port for all.
- * @param serial_interface  output: electrical interface.
- * @param baudrate  output: bit rate.
- * @param data_frame  output: data bits, parity and stop bits.
- * @param protocol  output: protocol.
- * @param setup_switch  output: the switch that was given with the setup.
- * @param count  output: the count that was given with the setup.
+ * @param[out] serial_interface  electrical interface.
+ * @param[out] baudrate  bit rate.
+ * @param[out] data_frame  data bits, parity and stop bits.
+ * @param[out] protocol  what is spoken on the line; a QORIN_RS485_PROTOCOL value.
+ * @param[out] setup_switch  the switch that was given with the setup.
+ * @param[out] count  the count that was given with the setup.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_tool_io_rs485_setup_get(unsigned int cbox_id, unsigned int robot_id,
@@ -149,15 +137,15 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_tool_io_rs485_setup_get(unsigned int 
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot; not judged, since there is one RS485 port for all.
- * @param status_1  output: status word 1.
- * @param status_2  output: status word 2.
- * @param status_3  output: status word 3.
- * @param status_4  output: status word 4.
- * @param status_5  output: status word 5.
- * @param status_6  output: status word 6.
- * @param status_7  output: status word 7.
- * @param status_8  output: status word 8.
- * @param status_9  output: status byte.
+ * @param[out] status_1  status word 1.
+ * @param[out] status_2  status word 2.
+ * @param[out] status_3  status word 3.
+ * @param[out] status_4  status word 4.
+ * @param[out] status_5  status word 5.
+ * @param[out] status_6  status word 6.
+ * @param[out] status_7  status word 7.
+ * @param[out] status_8  status word 8.
+ * @param[out] status_9  status byte.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_tool_io_rs485_status_get(unsigned int cbox_id, unsigned int robot_id,
@@ -174,12 +162,12 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_tool_io_rs485_status_get(unsigned int
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot; not judged, since there is one RS485 port for all.
- * @param control_1  output: control word 1.
- * @param control_2  output: control word 2.
- * @param control_3  output: control word 3.
- * @param control_4  output: control word 4.
- * @param control_5  output: control word 5.
- * @param control_6  output: control word 6.
+ * @param[out] control_1  control word 1.
+ * @param[out] control_2  control word 2.
+ * @param[out] control_3  control word 3.
+ * @param[out] control_4  control word 4.
+ * @param[out] control_5  control word 5.
+ * @param[out] control_6  control word 6.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_robot_tool_io_rs485_control_get(unsigned int cbox_id, unsigned int robot_id,
@@ -193,7 +181,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_tool_io_rs485_control_get(unsigned in
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot; not judged, since there is one RS485 port for all.
  * @param size  number of bytes, 0 to 64.
- * @param data  output: `size` bytes.
+ * @param[out] data  [size] `size` bytes.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  * QORIN_API_RESULT_ERROR_INVALID_DATA_SIZE when size is out of range.
  */
@@ -206,7 +194,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_tool_io_rs485_io_rx_data_get(unsigned
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot; not judged, since there is one RS485 port for all.
  * @param size  number of bytes, 0 to 64.
- * @param data  output: `size` bytes.
+ * @param[out] data  [size] `size` bytes.
  * @return QORIN_API_RESULT_OK; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected;
  * QORIN_API_RESULT_ERROR_INVALID_DATA_SIZE when size is out of range.
  */
@@ -218,8 +206,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_robot_tool_io_rs485_io_tx_data_get(unsigned
  *
  * @param robot_id  robot, 0 or 1.
  * @param channel  channel, 0 to 3.
- * @param value  output: 0 or 1.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] value  0 or 1.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_tool_io_digital_input_get(unsigned int robot_id, unsigned int channel,
                                                                  unsigned int* value);
@@ -229,8 +217,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_tool_io_digital_input_get(unsigned int ro
  *
  * @param robot_id  robot, 0 or 1.
  * @param channel  channel, 0 to 3.
- * @param value  output: 0 or 1.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] value  0 or 1.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_tool_io_digital_output_get(unsigned int robot_id, unsigned int channel,
                                                                   unsigned int* value);
@@ -240,8 +228,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_tool_io_digital_output_get(unsigned int r
  *
  * @param robot_id  robot, 0 or 1.
  * @param channel  channel, 0 to 1.
- * @param value  output: value in the control box's unit for the channel's mode.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] value  value in the control box's unit for the channel's mode.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_tool_io_analog_input_get(unsigned int robot_id, unsigned int channel,
                                                                 double* value);
@@ -251,8 +239,8 @@ QORIN_API QORIN_API_RESULT qorin_robot_tool_io_analog_input_get(unsigned int rob
  *
  * @param robot_id  robot, 0 or 1.
  * @param channel  channel, 0 to 1.
- * @param value  output: value, as the module gives it.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] value  value, as the module gives it.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_tool_io_analog_output_get(unsigned int robot_id, unsigned int channel,
                                                                  double* value);
@@ -262,10 +250,10 @@ QORIN_API QORIN_API_RESULT qorin_robot_tool_io_analog_output_get(unsigned int ro
  *
  * @param robot_id  robot, 0 or 1.
  * @param channel  channel, 0 to 1.
- * @param mode  output: voltage or current.
- * @param range  neither read nor written: the status mirror holds no range.
- * @param range_value  neither read nor written.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] mode  voltage or current.
+ * @param[out] range  neither read nor written: the status mirror holds no range.
+ * @param[out] range_value  neither read nor written.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_tool_io_analog_input_mode_get(unsigned int robot_id, unsigned int channel,
                                                                      QORIN_ANALOG_IO_MODE* mode, int* range,
@@ -275,9 +263,9 @@ QORIN_API QORIN_API_RESULT qorin_robot_tool_io_analog_input_mode_get(unsigned in
  * The same as qorin_rpc_robot_tool_io_power_voltage_current_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param voltage  output: the supply voltage, a QORIN_TOOL_IO_POWER_VOLTAGE_OPTION value.
- * @param current  output: supply current.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] voltage  the supply voltage, a QORIN_TOOL_IO_POWER_VOLTAGE_OPTION value.
+ * @param[out] current  supply current.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_tool_io_power_voltage_current_get(unsigned int robot_id, unsigned int* voltage,
                                                                          double* current);
@@ -286,10 +274,10 @@ QORIN_API QORIN_API_RESULT qorin_robot_tool_io_power_voltage_current_get(unsigne
  * The same as qorin_rpc_robot_tool_io_led_color_get() for the control box that was asked last.
  *
  * @param robot_id  robot, 0 or 1.
- * @param color_1  output: first colour value.
- * @param color_2  output: second colour value.
- * @param color_3  output: third colour value.
- * @return as there; QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID when no control box is connected.
+ * @param[out] color_1  first colour value.
+ * @param[out] color_2  second colour value.
+ * @param[out] color_3  third colour value.
+ * @return as every local form.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_tool_io_led_color_get(unsigned int robot_id, unsigned int* color_1,
                                                              unsigned int* color_2, unsigned int* color_3);
@@ -298,12 +286,12 @@ QORIN_API QORIN_API_RESULT qorin_robot_tool_io_led_color_get(unsigned int robot_
  * The same as qorin_rpc_robot_tool_io_rs485_setup_get() for the control box that was asked last.
  *
  * @param robot_id  robot; not judged, since there is one RS485 port for all.
- * @param serial_interface  output: electrical interface.
- * @param baudrate  output: bit rate.
- * @param data_frame  output: data bits, parity and stop bits.
- * @param protocol  output: protocol.
- * @param setup_switch  output: the switch that was given with the setup.
- * @param count  output: the count that was given with the setup.
+ * @param[out] serial_interface  electrical interface.
+ * @param[out] baudrate  bit rate.
+ * @param[out] data_frame  data bits, parity and stop bits.
+ * @param[out] protocol  what is spoken on the line; a QORIN_RS485_PROTOCOL value.
+ * @param[out] setup_switch  the switch that was given with the setup.
+ * @param[out] count  the count that was given with the setup.
  * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_tool_io_rs485_setup_get(
@@ -313,16 +301,16 @@ QORIN_API QORIN_API_RESULT qorin_robot_tool_io_rs485_setup_get(
 /**
  * The same as qorin_rpc_robot_tool_io_rs485_status_get() for the control box that was asked last.
  *
- * @param robot_id  robot; not judged, since there is one RS485 port for all.
- * @param status_1  output: status word 1.
- * @param status_2  output: status word 2.
- * @param status_3  output: status word 3.
- * @param status_4  output: status word 4.
- * @param status_5  output: status word 5.
- * @param status_6  output: status word 6.
- * @param status_7  output: status word 7.
- * @param status_8  output: status word 8.
- * @param status_9  output: status byte.
+ * @param robot_id       robot; not judged, since there is one RS485 port for all.
+ * @param[out] status_1  status word 1.
+ * @param[out] status_2  status word 2.
+ * @param[out] status_3  status word 3.
+ * @param[out] status_4  status word 4.
+ * @param[out] status_5  status word 5.
+ * @param[out] status_6  status word 6.
+ * @param[out] status_7  status word 7.
+ * @param[out] status_8  status word 8.
+ * @param[out] status_9  status byte.
  * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_tool_io_rs485_status_get(unsigned int robot_id, unsigned int* status_1,
@@ -335,12 +323,12 @@ QORIN_API QORIN_API_RESULT qorin_robot_tool_io_rs485_status_get(unsigned int rob
  * The same as qorin_rpc_robot_tool_io_rs485_control_get() for the control box that was asked last.
  *
  * @param robot_id  robot; not judged, since there is one RS485 port for all.
- * @param control_1  output: control word 1.
- * @param control_2  output: control word 2.
- * @param control_3  output: control word 3.
- * @param control_4  output: control word 4.
- * @param control_5  output: control word 5.
- * @param control_6  output: control word 6.
+ * @param[out] control_1  control word 1.
+ * @param[out] control_2  control word 2.
+ * @param[out] control_3  control word 3.
+ * @param[out] control_4  control word 4.
+ * @param[out] control_5  control word 5.
+ * @param[out] control_6  control word 6.
  * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_tool_io_rs485_control_get(unsigned int robot_id, unsigned int* control_1,
@@ -353,7 +341,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_tool_io_rs485_control_get(unsigned int ro
  *
  * @param robot_id  robot; not judged, since there is one RS485 port for all.
  * @param size  number of bytes, 0 to 64.
- * @param data  output: `size` bytes.
+ * @param[out] data  [size] `size` bytes.
  * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_tool_io_rs485_io_rx_data_get(unsigned int robot_id, unsigned char size,
@@ -364,7 +352,7 @@ QORIN_API QORIN_API_RESULT qorin_robot_tool_io_rs485_io_rx_data_get(unsigned int
  *
  * @param robot_id  robot; not judged, since there is one RS485 port for all.
  * @param size  number of bytes, 0 to 64.
- * @param data  output: `size` bytes.
+ * @param[out] data  [size] `size` bytes.
  * @return as there; QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when no control box is connected.
  */
 QORIN_API QORIN_API_RESULT qorin_robot_tool_io_rs485_io_tx_data_get(unsigned int robot_id, unsigned char size,

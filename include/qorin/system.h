@@ -11,8 +11,17 @@
  * judges the arguments. A command returns
  *   - what the control box answered, QORIN_API_RESULT_OK being the only success,
  *   - QORIN_API_RESULT_ERROR_CBOX_ID_INVALID when cbox_id is not connected, with nothing sent and no output touched,
- *   - 0 when the command link is lost; outputs are then zeroed.
- * A result that is not OK is also written to the event log.
+ *   - 0 when the command link is lost.
+ * These, when not OK, are also lines of the event log. What a function finds out by itself ahead of a command or behind
+ * it, as qorin_rpc_robot_create() does, is none.
+ *
+ * Failures and outputs. Whatever the result, once a request was sent all outputs are written: with what the reply
+ * holds, which is zeroes where the control box put nothing and after a lost link. An application that wants to keep a
+ * value takes the output in a variable of its own, and looks at the result first.
+ *
+ * Replies carry no number. One reply too many on the link is taken for the answer to the next command, and all later
+ * answers are then those of the command before. What the application sees is results and outputs that do not fit what
+ * was asked; the way out is a new connection.
  *
  * Texts. A command reads exactly 128 bytes from a text or array parameter, whatever its length: the memory behind it
  * must be readable that far. A text of 128 bytes or more is cut. A null pointer is sent as zeroes.
@@ -40,12 +49,20 @@ QORIN_API_C_BEGIN
  * calling thread is pinned to core 3, where the machine has one, and the receive threads inherit that. Not a command:
  * it takes no lock. To be called by one thread at a time, while no other thread is inside the library.
  *
- * A connection lasts until the process ends.
+ * A connection lasts until the process ends: callbacks and status end ahead of what the application made before its
+ * first connection, commands are answered until its last handler and static object. A process that was forked off must
+ * not use the connections of its parent. The receive threads run with all signals blocked.
  *
- * @param config_path  configuration file; null for $SAVRENT_V3/config/config.ini.
- * @param address      IPv4 address of the control box in dotted form. Null counts as malformed.
- * @param cbox_id      output: the control box id, 0 for the first control box of the process, then 1 and so on.
- *                     May be null. Untouched unless the links stand.
+ * The control box tells the three links apart by the order in which they come, for some 350 milliseconds after the
+ * first one. Two programs of one machine that connect to a box within that time can get each other's links: let them
+ * connect one after the other, under a lock that they share.
+ *
+ * @param config_path   configuration file; null for $SAVRENT_V3/config/config.ini. Its values are printed as lines of
+ *                      at most 1,023 characters: a value of 1,000 ends the process.
+ * @param address       IPv4 address of the control box in dotted form. Null counts as malformed, and so does a name of
+ *                      a host, also "localhost".
+ * @param[out] cbox_id  the control box id, 0 for the first control box of the process, then 1 and so on. May be null.
+ *                      Untouched unless the links stand, and stored as soon as they do.
  * @return QORIN_API_RESULT_OK;
  *         QORIN_API_RESULT_ERROR_CONFIG_FILE_LOAD_FAILURE when the configuration cannot be loaded, on the first call
  *         only: a second call goes on with no configuration, hence with no logs;
@@ -111,8 +128,8 @@ QORIN_API QORIN_API_RESULT qorin_rpc_system_control_release(unsigned int cbox_id
 /**
  * Asks the control box whether this client may command it.
  *
- * @param cbox_id       control box id from qorin_rpc_system_cbox_connect().
- * @param controllable  output: QORIN_SWITCH_ON or QORIN_SWITCH_OFF, from the reply; 128 bytes are read from here.
+ * @param cbox_id            control box id from qorin_rpc_system_cbox_connect().
+ * @param[out] controllable  QORIN_SWITCH_ON or QORIN_SWITCH_OFF, from the reply; 128 bytes are read from here.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_system_controllable_get(unsigned int cbox_id, QORIN_SWITCH* controllable);
@@ -187,14 +204,14 @@ QORIN_API const char* qorin_system_api_version_get(void);
  * The version text that the current control box had when it was first asked for; see
  * qorin_rpc_system_control_sw_version_get(). From the status mirror; does not block.
  *
- * @return a text that the library owns, empty when no control box was connected at the first call.
+ * @return a text that the library owns; null when no control box has been connected yet.
  */
 QORIN_API const char* qorin_system_control_sw_version_get(void);
 
 /**
  * Whether this process may command. In this client always so: qorin_rpc_system_controllable_get() asks the control box.
  *
- * @param controllable  output: QORIN_SWITCH_ON. Must not be null.
+ * @param[out] controllable  QORIN_SWITCH_ON. Must not be null.
  * @return QORIN_API_RESULT_OK.
  */
 QORIN_API QORIN_API_RESULT qorin_system_controllable_get(QORIN_SWITCH* controllable);

@@ -139,7 +139,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_ts_robot_tool_io_digital_input_set(unsigned
  * @param cbox_id   control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot id, 0 or 1.
  * @param joint     joint, 0 for the first.
- * @param ratio     ratio.
+ * @param ratio     ratio of the velocity feed-forward; the control box defines its scale.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_ts_robot_joint_velocity_feedforward_ratio_set(unsigned int cbox_id,
@@ -152,7 +152,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_ts_robot_joint_velocity_feedforward_ratio_s
  * @param cbox_id   control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot id, 0 or 1.
  * @param joint     joint, 0 for the first.
- * @param ratio     ratio.
+ * @param ratio     ratio of the torque feed-forward; the control box defines its scale.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_ts_robot_joint_torque_feedforward_ratio_set(unsigned int cbox_id,
@@ -165,7 +165,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_ts_robot_joint_torque_feedforward_ratio_set
  * @param cbox_id   control box id from qorin_rpc_system_cbox_connect().
  * @param robot_id  robot id, 0 or 1.
  * @param joint     joint, 0 for the first.
- * @param current   current.
+ * @param current   current of the torque feed-forward; the control box defines its unit.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_ts_robot_joint_torque_feedforward_current_set(unsigned int cbox_id,
@@ -178,9 +178,10 @@ QORIN_API QORIN_API_RESULT qorin_rpc_ts_robot_joint_torque_feedforward_current_s
  * Puts a fault into the control software.
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
- * @param fault    fault.
- * @param value_1  first number that goes with it.
- * @param value_2  second number.
+ * @param fault    number of the fault; the control software defines which there are. The guide's page of the simulated
+ *                 control box lists those that it takes.
+ * @param value_1  first of two numbers that go with it.
+ * @param value_2  second of these.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_ts_fault_inject(unsigned int cbox_id, unsigned int fault, unsigned int value_1,
@@ -191,10 +192,10 @@ QORIN_API QORIN_API_RESULT qorin_rpc_ts_fault_inject(unsigned int cbox_id, unsig
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
  * @param value_1  first of five numbers of a service data transfer; the control box defines them.
- * @param value_2  second number.
- * @param value_3  third number.
- * @param value_4  fourth number.
- * @param value_5  fifth number.
+ * @param value_2  second of these.
+ * @param value_3  third of these.
+ * @param value_4  fourth of these.
+ * @param value_5  fifth of these.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_ts_cbox_sdo_write(unsigned int cbox_id, unsigned int value_1, unsigned int value_2,
@@ -204,12 +205,12 @@ QORIN_API QORIN_API_RESULT qorin_rpc_ts_cbox_sdo_write(unsigned int cbox_id, uns
 /**
  * Reads service data from an EtherCAT device.
  *
- * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
- * @param value_1  first of four numbers of a service data transfer; the control box defines them.
- * @param value_2  second number.
- * @param value_3  third number.
- * @param value_4  fourth number.
- * @param result   output: what was read.
+ * @param cbox_id      control box id from qorin_rpc_system_cbox_connect().
+ * @param value_1      first of four numbers of a service data transfer; the control box defines them.
+ * @param value_2      second of these.
+ * @param value_3      third of these.
+ * @param value_4      fourth of these.
+ * @param[out] result  what was read.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_ts_cbox_sdo_read(unsigned int cbox_id, unsigned int value_1, unsigned int value_2,

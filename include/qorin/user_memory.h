@@ -7,7 +7,7 @@
  * const char no_text[128] = "";
  * QORIN_USER_DATA_TYPE type[32] = {};
  * int number[32] = {0};
- * char text[128] = ""; // the first 4 bytes come back
+ * char text[128] = ""; // 4 bytes come back: a number, not a text
  * char flag[128] = ""; // 4 bytes are written
  * double real[16] = {0.0};
  * long wide[16] = {0};
@@ -15,6 +15,8 @@
  * qorin_rpc_get_user_memory(cbox_id, name, type, number, text, flag, real, wide);
  * qorin_rpc_delete_user_memory(cbox_id, name);
  * @endcode
+ *
+ * A text can be kept and not read back: a reply has no room for texts. A value that a client is to read is a number.
  *
  * Everything here is a command: system.h tells what commands have in common. Each returns as every command does. The
  * control box answers among others
@@ -54,15 +56,17 @@ QORIN_API QORIN_API_RESULT qorin_rpc_set_user_memory(unsigned int cbox_id, const
 /**
  * Asks for a value by its name.
  *
- * @param cbox_id       control box id from qorin_rpc_system_cbox_connect().
- * @param name          key; 128 bytes are read, a longer key is cut.
- * @param type          output: which of the values counts.
- * @param int_value     output: integer.
- * @param text_value    output: the first 4 bytes of the text, with no terminator behind them; needs room for 4 bytes.
- * @param char_value    output: truth value. 4 bytes are written, so that it needs room for them.
- * @param double_value  output: number.
- * @param long_value    output: low 32 bits of the integer. The upper half is left as it was: a negative value needs a
- *                      cast to int.
+ * @param cbox_id            control box id from qorin_rpc_system_cbox_connect().
+ * @param name               key; 128 bytes are read, a longer key is cut.
+ * @param[out] type          which of the values counts.
+ * @param[out] int_value     what was kept for QORIN_USER_DATA_TYPE_INT.
+ * @param[out] text_value    [4] 4 bytes, the 32-bit value 2 of the reply, and no text; what the control box puts there
+ *                           is its own. Needs room for 4 bytes.
+ * @param[out] char_value    what was kept for QORIN_USER_DATA_TYPE_BOOL. 4 bytes are written, so that it needs room for
+ *                           them.
+ * @param[out] double_value  what was kept for QORIN_USER_DATA_TYPE_DOUBLE.
+ * @param[out] long_value    low 32 bits of what was kept for QORIN_USER_DATA_TYPE_LONGLONG. The upper half is left as
+ *                           it was: a negative value needs a cast to int.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_get_user_memory(unsigned int cbox_id, const char* name, QORIN_USER_DATA_TYPE* type,
@@ -94,7 +98,7 @@ QORIN_API QORIN_API_RESULT qorin_rpc_clear_user_memory(unsigned int cbox_id);
  * All other commands of the process wait that long, as for every command; getters go on.
  *
  * @param cbox_id  control box id from qorin_rpc_system_cbox_connect().
- * @param time     time; the control box defines the unit.
+ * @param time     how long to sleep; the control box defines the unit, milliseconds on the simulated one.
  * @return as every command.
  */
 QORIN_API QORIN_API_RESULT qorin_rpc_rt_sleep(unsigned int cbox_id, unsigned int time);

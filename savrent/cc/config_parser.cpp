@@ -35,6 +35,7 @@ bool config_parser::load_file(const char* path)
     else
         throw_without_path();
 
+    std::string reason;
     try
     {
         boost::property_tree::ini_parser::read_ini(file, tree_);
@@ -43,7 +44,9 @@ bool config_parser::load_file(const char* path)
     }
     catch (const std::exception& failure)
     {
-        QORIN_DEBUG_PRINT(QORIN_LOG_TYPE_ERROR, "%s\n", failure.what());
+        reason = failure.what();
+        QORIN_DEBUG_PRINT(QORIN_LOG_TYPE_ERROR, "%s\n", reason.c_str());
+        reason += '\n';
     }
     catch (...)
     {
@@ -52,7 +55,7 @@ bool config_parser::load_file(const char* path)
     const std::string report = "configuration file load fauilure, path: " + file;
     err::sw_err::handle(report.c_str(), "config_parser", 64);
     // Without a configuration no log is open and the screen is off: this is the one place where a user can see why.
-    std::fprintf(stderr, "%s\n", report.c_str());
+    std::fprintf(stderr, "%s\n%s", report.c_str(), reason.c_str());
     return false;
 }
 
@@ -73,9 +76,7 @@ void config_parser::print(const std::function<void(const char*, const char*, con
     if (!is_loaded())
         return;
     for (const auto& [section, keys] : tree_)
-    {
         for (const auto& [key, value] : keys)
             callback(section.c_str(), key.c_str(), value.data().c_str());
-    }
 }
 } // namespace savrent::cc

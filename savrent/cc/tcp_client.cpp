@@ -15,6 +15,7 @@
 #include <unistd.h>
 
 #include "savrent/cc/debug_print.h"
+#include "savrent/cc/own_descriptor.h"
 
 namespace savrent::cc
 {
@@ -53,7 +54,7 @@ bool tcp_client::connect_to_server(const char* /*ignored*/, const char* address,
 
     bool good = true;
     descriptor_ = -1;
-    descriptor_ = socket(AF_INET, SOCK_STREAM, IPPROTO_TCP);
+    descriptor_ = own_descriptor(socket(AF_INET, SOCK_STREAM, IPPROTO_TCP));
     if (descriptor_ == -1)
     {
         good = false;
@@ -67,6 +68,8 @@ bool tcp_client::connect_to_server(const char* /*ignored*/, const char* address,
     {
         good = false;
         QORIN_DEBUG_PRINT(QORIN_LOG_TYPE_ERROR, "Invalid address / Address not supported\n");
+        server.sin_addr.s_addr =
+            INADDR_BROADCAST; // a connection to it fails with nothing sent; 0 would be this machine
     }
 
     if (connect(descriptor_, reinterpret_cast<const sockaddr*>(&server), sizeof(server)) < 0)
@@ -150,6 +153,12 @@ int tcp_client::close_socket()
     const int result = close(descriptor_);
     descriptor_ = 0;
     return result;
+}
+
+void tcp_client::end_reading() const
+{
+    if (descriptor_ > 0)
+        shutdown(descriptor_, SHUT_RD);
 }
 
 void tcp_client::shut_down() const

@@ -7,8 +7,8 @@ namespace savrent::cc
  * One blocking IPv4 TCP client socket.
  *
  * It neither retries, reconnects, buffers nor runs a thread, and it has no lock: one thread at a time reads, one
- * writes. shut_down() alone may be called beside a read or a write. A write on a link that the peer has closed raises
- * SIGPIPE unless the application ignores it.
+ * writes. end_reading() and shut_down() may be called beside a read or a write. A write on a link that the peer has
+ * closed raises SIGPIPE unless the application ignores it.
  */
 class tcp_client
 {
@@ -27,7 +27,7 @@ public:
      * Blocks as long as the operating system lets it.
      *
      * @param ignored  not looked at.
-     * @param address  IPv4 address in dotted form; null counts as malformed.
+     * @param address  IPv4 address in dotted form; null counts as malformed. A malformed one fails and reaches nobody.
      * @param port     port in host order.
      * @return true when the connection stands.
      */
@@ -47,6 +47,9 @@ public:
 
     /// @return the result of close(), 0 when there was no socket.
     int close_socket();
+
+    /// Lets a blocked read fail; what was received before may still be read. The peer notices nothing.
+    void end_reading() const;
 
     /// Ends both directions, so that a blocked read fails. The descriptor stays open.
     void shut_down() const;

@@ -93,6 +93,18 @@ void periodic_task_impl(const std::function<void()>& body, unsigned int period_u
 }
 } // namespace
 
+signals_blocked::signals_blocked()
+{
+    sigset_t all;
+    sigfillset(&all);
+    pthread_sigmask(SIG_SETMASK, &all, &before_);
+}
+
+signals_blocked::~signals_blocked()
+{
+    pthread_sigmask(SIG_SETMASK, &before_, nullptr);
+}
+
 void thread_help::set_affinity(unsigned long thread, unsigned int core)
 {
     char name[name_size] = "";

@@ -5,8 +5,23 @@
 #include <memory>
 #include <thread>
 
+#include <signal.h>
+
 namespace savrent::cc
 {
+/// Keeps all signals from the calling thread while it lives, and for good from the threads that are started meanwhile.
+class signals_blocked
+{
+public:
+    signals_blocked();
+    ~signals_blocked();
+    signals_blocked(const signals_blocked&) = delete;
+    signals_blocked& operator=(const signals_blocked&) = delete;
+
+private:
+    sigset_t before_;
+};
+
 /**
  * Names, cores, priorities and periodic tasks. Every failure here is a line and a continuation.
  *

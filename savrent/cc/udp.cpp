@@ -7,6 +7,8 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
+#include "savrent/cc/own_descriptor.h"
+
 namespace savrent::cc
 {
 int udp::init(const char* local_ip, unsigned short local_port, const char* remote_ip, unsigned short remote_port)
@@ -14,7 +16,7 @@ int udp::init(const char* local_ip, unsigned short local_port, const char* remot
     close();
     local_address_ = {};
     remote_address_ = {};
-    descriptor_ = socket(AF_INET, SOCK_DGRAM, IPPROTO_UDP);
+    descriptor_ = own_descriptor(socket(AF_INET, SOCK_DGRAM, IPPROTO_UDP));
 
     local_address_.sin_family = AF_INET;
     local_address_.sin_addr.s_addr = local_ip == nullptr ? INADDR_ANY : inet_addr(local_ip);

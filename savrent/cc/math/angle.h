@@ -19,7 +19,7 @@ namespace savrent::cc::math
 class QORIN_API angle
 {
 public:
-    double mAngle; /**< in the current angle unit */
+    double mAngle; ///< in the current angle unit
 
     constexpr explicit angle(double value) : mAngle(value) {}
 

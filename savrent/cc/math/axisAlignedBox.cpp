@@ -62,13 +62,9 @@ void axisAlignedBox::setExtents(double min_x, double min_y, double min_z, double
 const vector3* axisAlignedBox::getAllCorners() const
 {
     if (mCorners == nullptr)
-    {
         mCorners = new vector3[8];
-    }
     for (unsigned int i = 0; i < 8; ++i)
-    {
         mCorners[i] = getCorner(static_cast<CornerEnum>(i));
-    }
     return mCorners;
 }
 
@@ -99,18 +95,14 @@ vector3 axisAlignedBox::getCorner(CornerEnum corner) const
 vector3 axisAlignedBox::getSize() const
 {
     if (isFinite())
-    {
         return mMaximum - mMinimum;
-    }
     return vector3(isNull() ? 0.0 : util::POS_INFINITY);
 }
 
 void axisAlignedBox::merge(const axisAlignedBox& other)
 {
     if (other.isNull() || isInfinite())
-    {
         return;
-    }
     if (other.isInfinite())
     {
         setInfinite();
@@ -142,55 +134,41 @@ void axisAlignedBox::merge(const vector3& point)
 void axisAlignedBox::transform(const matrix4& matrix)
 {
     if (!isFinite())
-    {
         return;
-    }
     const axisAlignedBox old = *this;
     setNull();
     // A walk along edges, so that from one corner to the next one coordinate changes.
     static constexpr CornerEnum walk[8] = {MIN_X_MIN_Y_MIN_Z, MIN_X_MIN_Y_MAX_Z, MIN_X_MAX_Y_MAX_Z, MIN_X_MAX_Y_MIN_Z,
                                            MAX_X_MAX_Y_MIN_Z, MAX_X_MAX_Y_MAX_Z, MAX_X_MIN_Y_MAX_Z, MAX_X_MIN_Y_MIN_Z};
     for (const CornerEnum corner : walk)
-    {
         merge(matrix * old.getCorner(corner));
-    }
 }
 
 void axisAlignedBox::transformAffine(const matrix4& matrix)
 {
     if (!isFinite())
-    {
         return;
-    }
     // The centre moves like a point; the half size is stretched by the absolute block.
     const vector3 half = getHalfSize();
     const vector3 centre = matrix.transformAffine(getCenter());
     vector3 reach;
     for (std::size_t row = 0; row < 3; ++row)
-    {
         reach[row] = half.absDotProduct(vector3(matrix[row]));
-    }
     setExtents(centre - reach, centre + reach);
 }
 
 void axisAlignedBox::scale(const vector3& factor)
 {
     if (isFinite())
-    {
         setExtents(mMinimum * factor, mMaximum * factor);
-    }
 }
 
 bool axisAlignedBox::intersects(const axisAlignedBox& other) const
 {
     if (isNull() || other.isNull())
-    {
         return false;
-    }
     if (isInfinite() || other.isInfinite())
-    {
         return true;
-    }
     return none_above(mMinimum, other.mMaximum) && none_above(other.mMinimum, mMaximum);
 }
 
@@ -207,17 +185,11 @@ bool axisAlignedBox::intersects(const plane& p) const
 axisAlignedBox axisAlignedBox::intersection(const axisAlignedBox& other) const
 {
     if (isNull() || other.isNull())
-    {
         return {};
-    }
     if (isInfinite())
-    {
         return other;
-    }
     if (other.isInfinite())
-    {
         return *this;
-    }
     vector3 minimum = mMinimum;
     vector3 maximum = mMaximum;
     minimum.makeCeil(other.mMinimum);
@@ -228,9 +200,7 @@ axisAlignedBox axisAlignedBox::intersection(const axisAlignedBox& other) const
 double axisAlignedBox::volume() const
 {
     if (isInfinite())
-    {
         return util::POS_INFINITY;
-    }
     const vector3 size = getSize();
     return size.x * size.y * size.z;
 }
@@ -243,22 +213,16 @@ bool axisAlignedBox::contains(const vector3& point) const
 bool axisAlignedBox::contains(const axisAlignedBox& other) const
 {
     if (other.isNull() || isInfinite())
-    {
         return true;
-    }
     if (isNull() || other.isInfinite())
-    {
         return false;
-    }
     return none_above(mMinimum, other.mMinimum) && none_above(other.mMaximum, mMaximum);
 }
 
 double axisAlignedBox::squaredDistance(const vector3& point) const
 {
     if (!isFinite())
-    {
         return isNull() ? util::POS_INFINITY : 0.0;
-    }
     vector3 nearest = point;
     nearest.makeCeil(mMinimum);
     nearest.makeFloor(mMaximum);
@@ -273,9 +237,7 @@ bool axisAlignedBox::operator==(const axisAlignedBox& other) const
 std::ostream& operator<<(std::ostream& out, const axisAlignedBox& box)
 {
     if (box.isFinite())
-    {
         return out << "AxisAlignedBox(min=" << box.getMinimum() << ", max=" << box.getMaximum() << ")";
-    }
     return out << (box.isNull() ? "AxisAlignedBox(null)" : "AxisAlignedBox(infinite)");
 }
 } // namespace savrent::cc::math

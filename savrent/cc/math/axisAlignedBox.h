@@ -33,7 +33,7 @@ public:
         EXTENT_INFINITE = 2
     };
 
-    /** Corners by the ends of the three axes: the face of low z, then that of high z. */
+    /// Corners by the ends of the three axes: the face of low z, then that of high z.
     enum CornerEnum : unsigned int
     {
         MIN_X_MIN_Y_MIN_Z = 0,
@@ -49,7 +49,7 @@ public:
     static const axisAlignedBox BOX_NULL;
     static const axisAlignedBox BOX_INFINITE;
 
-    /** A null box. */
+    /// A null box.
     constexpr axisAlignedBox() : axisAlignedBox(EXTENT_NULL) {}
     constexpr explicit axisAlignedBox(extent e) : mMinimum(-0.5, -0.5, -0.5), mMaximum(0.5, 0.5, 0.5), mExtent(e) {}
     constexpr axisAlignedBox(const vector3& minimum, const vector3& maximum)
@@ -70,7 +70,7 @@ public:
     void setMinimum(double x, double y, double z) { setMinimum({x, y, z}); }
     void setMaximum(const vector3& v);
     void setMaximum(double x, double y, double z) { setMaximum({x, y, z}); }
-    /** One coordinate; the extent stays what it is. */
+    /// One coordinate; the extent stays what it is.
     void setMinimumX(double x) { mMinimum.x = x; }
     void setMinimumY(double y) { mMinimum.y = y; }
     void setMinimumZ(double z) { mMinimum.z = z; }
@@ -80,14 +80,14 @@ public:
     void setExtents(const vector3& minimum, const vector3& maximum);
     void setExtents(double min_x, double min_y, double min_z, double max_x, double max_y, double max_z);
 
-    /** The eight corners by CornerEnum. The array is the box's and is filled anew by each call. */
+    /// The eight corners by CornerEnum. The array is the box's and is filled anew by each call.
     [[nodiscard]] const vector3* getAllCorners() const;
-    /** A zero vector for a value above 7. */
+    /// A zero vector for a value above 7.
     [[nodiscard]] vector3 getCorner(CornerEnum corner) const;
     [[nodiscard]] vector3 getCenter() const { return (mMaximum + mMinimum) * 0.5; }
-    /** Zero for a null box, infinities for an infinite one. */
+    /// Zero for a null box, infinities for an infinite one.
     [[nodiscard]] vector3 getSize() const;
-    /** Zero for a null box, infinities for an infinite one. */
+    /// Zero for a null box, infinities for an infinite one.
     [[nodiscard]] vector3 getHalfSize() const { return getSize() * 0.5; }
 
     void setNull() { mExtent = EXTENT_NULL; }
@@ -96,36 +96,37 @@ public:
     void setInfinite() { mExtent = EXTENT_INFINITE; }
     [[nodiscard]] bool isInfinite() const { return mExtent == EXTENT_INFINITE; }
 
-    /** Grows to hold the other box. */
+    /// Grows to hold the other box.
     void merge(const axisAlignedBox& other);
-    /** Grows to hold the point. */
+    /// Grows to hold the point.
     void merge(const vector3& point);
-    /** Becomes the hull of its eight transformed corners. */
+    /// Becomes the hull of its eight transformed corners.
     void transform(const matrix4& matrix);
-    /** As transform(), for an affine matrix and faster. */
+    /// As transform(), for an affine matrix and faster.
     void transformAffine(const matrix4& matrix);
-    /** Multiplies both corners; a negative factor exchanges them, which is no box any more. */
+    /// Multiplies both corners; a negative factor exchanges them, which is no box any more.
     void scale(const vector3& factor);
 
-    /** Whether the boxes share a point; touching faces do. */
+    /// Whether the boxes share a point; touching faces do.
     [[nodiscard]] bool intersects(const axisAlignedBox& other) const;
     [[nodiscard]] bool intersects(const sphere& s) const;
     [[nodiscard]] bool intersects(const plane& p) const;
     [[nodiscard]] bool intersects(const vector3& point) const { return contains(point); }
-    /** The shared box; null when the boxes only touch. */
+    /// The shared box; null when the boxes only touch.
     [[nodiscard]] axisAlignedBox intersection(const axisAlignedBox& other) const;
-    /** 0 for a null box, infinity for an infinite one. */
+    /// 0 for a null box, infinity for an infinite one.
     [[nodiscard]] double volume() const;
-    /** Faces included. */
+    /// Faces included.
     [[nodiscard]] bool contains(const vector3& point) const;
-    /** Faces included; a null box is in every box. */
+    /// Faces included; a null box is in every box.
     [[nodiscard]] bool contains(const axisAlignedBox& other) const;
-    /** Squared distance of a point from the box: 0 inside and for an infinite box, infinity for a null one. */
+    /// Squared distance of a point from the box: 0 inside and for an infinite box, infinity for a null one.
     [[nodiscard]] double squaredDistance(const vector3& point) const;
     [[nodiscard]] double distance(const vector3& point) const { return std::sqrt(squaredDistance(point)); }
 
-    /** Boxes that are not finite are equal if their extents are. */
+    /// Boxes that are not finite are equal if their extents are.
     bool operator==(const axisAlignedBox& other) const;
+    bool operator!=(const axisAlignedBox& other) const { return !(*this == other); }
 
 private:
     vector3 mMinimum;

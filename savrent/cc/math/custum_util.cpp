@@ -16,9 +16,9 @@ namespace
 {
 // The limits are single-precision values, which existing programs see in the results at the border.
 constexpr double smallest_turn = 1e-10F;
-/** A thousandth of a degree in radians, as products of single-precision factors give it. */
+/// A thousandth of a degree in radians, as products of single-precision factors give it.
 constexpr double smallest_half_sine = 1.7453293348930207e-05;
-/** Sine of ry from which on the two other angles are not told apart. */
+/// Sine of ry from which on the two other angles are not told apart.
 constexpr double gimbal_lock_sine = 0.999999999999;
 } // namespace
 
@@ -76,9 +76,7 @@ void custum_util::convert_rot_mat_to_axis_angle(const matrix3& rotation, vector3
     angle = radToDeg(radians);
     const double d = 2.0 * std::sin(radians);
     if (!(std::fabs(d) < smallest_turn))
-    {
         axis = vector3(m[2][1] - m[1][2], m[0][2] - m[2][0], m[1][0] - m[0][1]) / d;
-    }
 }
 
 void custum_util::convert_axis_angle_to_rot_mat(const vector3& axis, double angle, matrix3& rotation)
@@ -90,9 +88,7 @@ void custum_util::convert_axis_angle_to_rot_mat(const vector3& axis, double angl
     }
     vector3 unit = axis.normalisedCopy();
     if (angle >= 360.0)
-    {
         angle *= std::floor(angle / 360.0); // multiplied and not reduced, as callers have come to rely on
-    }
     if (angle > 180.0)
     {
         unit = -unit;

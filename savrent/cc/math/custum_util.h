@@ -31,8 +31,8 @@ using math::vector3;
 class QORIN_API custum_util
 {
 public:
-    /** @name Conversions */
-    /** @{ */
+    /// @name Conversions
+    /// @{
     /**
      * @param euler Degrees. At the gimbal lock, ry of 90 or -90, rz is 0 and rx takes the whole turn.
      * @return False at the gimbal lock.
@@ -51,7 +51,7 @@ public:
      */
     static void convert_axis_angle_to_rot_mat(const vector3& axis, double angle, matrix3& rotation);
     static void convert_quaternion_to_euler_angle(const quaternion& q, vector3& euler);
-    /** @param q Unit. */
+    /// @param q Unit.
     static void convert_euler_angle_to_quaternion(const vector3& euler, quaternion& q);
     /**
      * @param q              Of any length but zero.
@@ -59,20 +59,20 @@ public:
      *                       and of single precision only: the sine of the half angle is a float.
      */
     static void convert_quaternion_to_rot_vec(const quaternion& q, vector3& rotation_vector);
-    /** @} */
+    /// @}
 
-    /** @name Tool and flange; the offset is the pose of the TCP seen from the flange */
-    /** @{ */
+    /// @name Tool and flange; the offset is the pose of the TCP seen from the flange
+    /// @{
     static void convert_tcp_at_base_to_flange_at_base(const vector3& tcp_position, const vector3& tcp_orientation,
                                                       const vector3& offset_position, const vector3& offset_orientation,
                                                       vector3& flange_position, vector3& flange_orientation);
     static void convert_flange_at_base_to_tcp_at_base(const vector3& flange_position, const vector3& flange_orientation,
                                                       const vector3& offset_position, const vector3& offset_orientation,
                                                       vector3& tcp_position, vector3& tcp_orientation);
-    /** @} */
+    /// @}
 
-    /** @name Circles and arcs */
-    /** @{ */
+    /// @name Circles and arcs
+    /// @{
     /**
      * Whether the path bends by less than one degree, or turns back within one degree, the bound included.
      *
@@ -84,7 +84,7 @@ public:
      * @return False if the points do not give one within 0.001; the centre is then not to be used.
      */
     static bool get_outer_circle_center(const vector3& p1, const vector3& p2, const vector3& p3, vector3& centre);
-    /** Length of the arc from start over mid to end. @return True. */
+    /// Length of the arc from start over mid to end. @return True.
     static bool get_arc_length(const vector3& start, const vector3& mid, const vector3& end, const vector3& centre,
                                double& length);
     /**
@@ -118,25 +118,25 @@ public:
     static bool get_tangent_pts_and_inscribed_circle_center_between_two_vectors(
         const vector3& corner, const vector3& direction_1, const vector3& direction_2, double radius,
         vector3& tangent_point_1, vector3& tangent_point_2, vector3& centre);
-    /** @} */
+    /// @}
 
-    /** @name Motion */
-    /** @{ */
-    /** (to - from) / time. */
+    /// @name Motion
+    /// @{
+    /// (to - from) / time.
     static void calc_linear_velocity(const vector3& from, const vector3& to, double time, vector3& velocity);
     /**
      * @param velocity Degrees per second about the base's axes; zero for a turn of at most 0.001 degrees, and
      *                 also where convert_quaternion_to_rot_vec() gives zero.
      */
     static void calc_angular_velocity(const quaternion& from, const quaternion& to, double time, vector3& velocity);
-    /** @} */
+    /// @}
 
-    /** @name Points and vectors */
-    /** @{ */
-    /** Foot of p on the line from the origin through q; not finite if both are the same. */
+    /// @name Points and vectors
+    /// @{
+    /// Foot of p on the line from the origin through q; not finite if both are the same.
     static void get_projection_p_onto_line_from_origin_to_q(const vector3& origin, const vector3& p, const vector3& q,
                                                             vector3& projection);
-    /** Turns v right-handed about an axis of any length by an angle in degrees; a zero axis leaves v. */
+    /// Turns v right-handed about an axis of any length by an angle in degrees; a zero axis leaves v.
     static void rotate_vector(const vector3& v, const vector3& axis, double angle, vector3& rotated);
     /**
      * Points on a smooth curve through the control points.
@@ -149,7 +149,7 @@ public:
      * @return False, with the points left alone, if there are too few of either.
      */
     static bool get_points_by_bspline(std::span<const vector3> control_points, std::span<vector3> points);
-    /** @} */
+    /// @}
 };
 } // namespace savrent::cc::math_savrent
 

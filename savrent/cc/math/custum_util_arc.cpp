@@ -17,9 +17,9 @@ using math::util;
 
 namespace
 {
-/** Bend in degrees below which three points are in line, and the deviation up to which a path turns straight back. */
+/// Bend in degrees below which three points are in line, and the deviation up to which a path turns straight back.
 constexpr double straight_limit = 1.0;
-/** Distance between the two constructions of a centre from which on there is none. */
+/// Distance between the two constructions of a centre from which on there is none.
 constexpr double centre_gap = 0.001;
 // The further limits are single-precision values, as is the pi of circumferences.
 constexpr double same_limit = 0.001F;
@@ -30,7 +30,7 @@ double circumference_of(const vector3& point, const vector3& centre)
     return 2.0 * point.distance(centre) * circle_pi;
 }
 
-/** Where a line meets a plane; the ray is turned round when the plane lies behind it. */
+/// Where a line meets a plane; the ray is turned round when the plane lies behind it.
 vector3 meet(ray line, const plane& across)
 {
     std::pair<bool, double> hit = line.intersects(across);
@@ -42,7 +42,7 @@ vector3 meet(ray line, const plane& across)
     return line.getPoint(hit.second);
 }
 
-/** Whether the three points, seen from a centre, lie in one plane with it. */
+/// Whether the three points, seen from a centre, lie in one plane with it.
 bool in_one_plane(const vector3& p1, const vector3& p2, const vector3& p3, const vector3& centre)
 {
     const vector3 u1 = (centre - p1).normalisedCopy();
@@ -56,7 +56,7 @@ bool in_one_plane(const vector3& p1, const vector3& p2, const vector3& p3, const
     return (c1 - c2).length() <= same_limit || (c1 + c2).length() <= same_limit;
 }
 
-/** The angle in degrees that an arc covers. */
+/// The angle in degrees that an arc covers.
 double arc_angle(const vector3& start, const vector3& mid, const vector3& end, const vector3& centre)
 {
     const vector3 to_start = start - centre;
@@ -84,9 +84,7 @@ std::vector<vector3> control_polygon_through(std::span<const vector3> points)
         polygon[i] = (6.0 * points[i] - polygon[i - 1]) * pivot[i];
     }
     for (std::size_t i = points.size() - 1; i-- > 1;)
-    {
         polygon[i] -= polygon[i + 1] * pivot[i];
-    }
     return polygon;
 }
 } // namespace
@@ -96,9 +94,7 @@ bool custum_util::is_straight_line_three_pts(const vector3& p1, const vector3& p
     vector3 first = p1 - p2;
     vector3 second = p2 - p3;
     if (!(first.normalise() > 0.0) || !(second.normalise() > 0.0))
-    {
         return true;
-    }
     const double bend = first.angleBetween(second).valueDegrees();
     return bend < straight_limit || 180.0 - bend <= straight_limit;
 }
@@ -119,16 +115,12 @@ bool custum_util::get_outer_circle_center(const vector3& p1, const vector3& p2, 
     const vector3 a = meet({m23, b23}, bisector);
     const vector3 b = meet({m31, b31}, bisector);
     if (!(a.distance(b) < centre_gap))
-    {
         return false;
-    }
     const double r1 = a.distance(p1);
     const double r2 = a.distance(p2);
     const double r3 = a.distance(p3);
     if (std::fabs(r1 - r2) > same_limit || std::fabs(r3 - r2) > same_limit || !in_one_plane(p1, p2, p3, a))
-    {
         return false;
-    }
     centre = a;
     return true;
 }
@@ -145,9 +137,7 @@ bool custum_util::get_point_on_circle_by_delta_distance(const vector3& start, co
 {
     const double circumference = circumference_of(start, centre);
     if (distance > circumference)
-    {
         distance -= circumference;
-    }
     vector3 spoke;
     rotate_vector(start - centre, axis, distance / circumference * 360.0, spoke);
     point = centre + spoke;
@@ -180,9 +170,7 @@ bool custum_util::get_tangent_pts_and_inscribed_circle_center_between_two_vector
     const vector3 u2 = direction_2.normalisedCopy();
     const double double_sine = u1.crossProduct(u2).length();
     if (!(double_sine > 1e-9))
-    {
         return false;
-    }
     // With h the half of the corner's angle: the tangent points lie at radius / tan h, and the centre on
     // the bisector at radius / sin h, that is at radius / sin 2h along each direction.
     const vector3 from = corner;
@@ -196,9 +184,7 @@ bool custum_util::get_tangent_pts_and_inscribed_circle_center_between_two_vector
 bool custum_util::get_points_by_bspline(std::span<const vector3> control_points, std::span<vector3> points)
 {
     if (control_points.size() < 2 || points.size() < 2)
-    {
         return false;
-    }
     const std::vector<vector3> polygon = control_polygon_through(control_points);
     const std::size_t last_span = polygon.size() - 2;
     const double step = static_cast<double>(polygon.size() - 1) / static_cast<double>(points.size() - 1);

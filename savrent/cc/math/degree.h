@@ -22,7 +22,7 @@ namespace savrent::cc::math
 class QORIN_API degree
 {
 public:
-    double mDeg; /**< degrees */
+    double mDeg; ///< degrees
 
     constexpr explicit degree(double degrees = 0.0) : mDeg(degrees) {}
     constexpr degree(const radian& other) : mDeg(other.valueDegrees()) {}
@@ -36,7 +36,7 @@ public:
 
     [[nodiscard]] constexpr double valueDegrees() const { return mDeg; }
     [[nodiscard]] constexpr double valueRadians() const { return mDeg * detail::radians_per_degree; }
-    /** The value in the process-wide unit of util::setAngleUnit(). */
+    /// The value in the process-wide unit of util::setAngleUnit().
     [[nodiscard]] double valueAngleUnits() const;
 
     constexpr const degree& operator+() const { return *this; }
@@ -57,21 +57,28 @@ public:
     constexpr degree operator/(double divisor) const { return degree(mDeg / divisor); }
     constexpr degree& operator/=(double divisor) { return *this = mDeg / divisor; }
 
-    /** Raw values compared exactly: gives ==, !=, <, <=, > and >=. */
-    constexpr auto operator<=>(const degree& other) const = default;
+    /// @name Raw values compared exactly
+    /// @{
+    constexpr bool operator==(const degree& other) const { return mDeg == other.mDeg; }
+    constexpr bool operator!=(const degree& other) const { return mDeg != other.mDeg; }
+    constexpr bool operator<(const degree& other) const { return mDeg < other.mDeg; }
+    constexpr bool operator<=(const degree& other) const { return mDeg <= other.mDeg; }
+    constexpr bool operator>(const degree& other) const { return mDeg > other.mDeg; }
+    constexpr bool operator>=(const degree& other) const { return mDeg >= other.mDeg; }
+    /// @}
 };
 
-constexpr degree operator*(double factor, const degree& value)
+QORIN_API constexpr degree operator*(double factor, const degree& value)
 {
     return degree(factor * value.mDeg);
 }
-/** The number divided by the raw value. */
-constexpr degree operator/(double number, const degree& value)
+/// The number divided by the raw value.
+QORIN_API constexpr degree operator/(double number, const degree& value)
 {
     return degree(number / value.mDeg);
 }
 
-/** Writes "Degree(", the value, ")". */
+/// Writes "Degree(", the value, ")".
 QORIN_API std::ostream& operator<<(std::ostream& out, const degree& value);
 
 constexpr radian::radian(const degree& other) : mRad(other.valueRadians()) {}

@@ -34,12 +34,8 @@ matrix3 matrix3::Inverse(double tolerance) const
 bool matrix3::hasScale() const
 {
     for (std::size_t column = 0; column < 3; ++column)
-    {
         if (!util::realEqual(GetColumn(column).squaredLength(), 1.0, 1e-4))
-        {
             return true;
-        }
-    }
     return false;
 }
 
@@ -66,9 +62,7 @@ void matrix3::QDUDecomposition(matrix3& q, vector3& d, vector3& u) const
     q = a;
     q.Orthonormalize();
     if (q.Determinant() < 0.0)
-    {
         q = -q;
-    }
     const matrix3 r = q.Transpose() * a;
     d = {r[0][0], r[1][1], r[2][2]};
     const double inverse_d0 = 1.0 / d.x;
@@ -82,9 +76,7 @@ double matrix3::MaxCubicRoot(const double coefficients[3])
     const double p = shift * shift - coefficients[1] / 3.0;
     const double q = shift * shift * shift - 0.5 * (shift * coefficients[1] - coefficients[0]);
     if (!(p > 0.0))
-    {
         return -shift; // three equal roots
-    }
     const double root_p = std::sqrt(p);
     const double third = util::ACos(-q / (p * root_p)).valueRadians() / 3.0;
     return 2.0 * root_p * std::cos(third) - shift;
@@ -95,16 +87,10 @@ double matrix3::SpectralNorm() const
     // The largest root of the characteristic cubic of A transposed times A, scaled against overflow.
     double largest = 0.0;
     for (const auto& row : m)
-    {
         for (const double element : row)
-        {
             largest = std::fmax(largest, std::fabs(element));
-        }
-    }
     if (!(largest > 0.0))
-    {
         return 0.0;
-    }
     const matrix3 scaled = *this * (1.0 / largest);
     const matrix3 p = scaled.Transpose() * scaled;
     const double coefficients[3] = {-p.Determinant(),

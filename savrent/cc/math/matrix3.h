@@ -25,7 +25,7 @@ public:
     static const matrix3 ZERO;
     static const matrix3 IDENTITY;
     static constexpr double EPSILON = 1e-06;
-    /** Relative size below which the singular value solver drops a superdiagonal element. */
+    /// Relative size below which the singular value solver drops a superdiagonal element.
     static constexpr double msSvdEpsilon = 0.0001;
     static constexpr unsigned int msSvdMaxIterations = 32;
 
@@ -48,7 +48,7 @@ public:
         other = kept;
     }
 
-    /** Row by index, 0 to 2. */
+    /// Row by index, 0 to 2.
     constexpr double* operator[](std::size_t row) { return m[row]; }
     constexpr const double* operator[](std::size_t row) const { return m[row]; }
     [[nodiscard]] constexpr vector3 GetColumn(std::size_t column) const
@@ -61,14 +61,15 @@ public:
         m[1][column] = v.y;
         m[2][column] = v.z;
     }
-    /** Makes the three axes the columns. */
+    /// Makes the three axes the columns.
     constexpr void FromAxes(const vector3& x_axis, const vector3& y_axis, const vector3& z_axis)
     {
         *this = {x_axis.x, y_axis.x, z_axis.x, x_axis.y, y_axis.y, z_axis.y, x_axis.z, y_axis.z, z_axis.z};
     }
 
-    /** Exact compare. */
+    /// Exact compare.
     constexpr bool operator==(const matrix3& other) const = default;
+    constexpr bool operator!=(const matrix3& other) const { return !(*this == other); }
 
     constexpr matrix3 operator+(const matrix3& b) const
     {
@@ -84,15 +85,11 @@ public:
     {
         matrix3 product;
         for (std::size_t r = 0; r < 3; ++r)
-        {
             for (std::size_t c = 0; c < 3; ++c)
-            {
                 product.m[r][c] = m[r][0] * b.m[0][c] + m[r][1] * b.m[1][c] + m[r][2] * b.m[2][c];
-            }
-        }
         return product;
     }
-    /** Rows with the column vector. */
+    /// Rows with the column vector.
     constexpr vector3 operator*(const vector3& v) const
     {
         return {m[0][0] * v.x + m[0][1] * v.y + m[0][2] * v.z, m[1][0] * v.x + m[1][1] * v.y + m[1][2] * v.z,
@@ -118,21 +115,21 @@ public:
      * @return False if the absolute determinant is at most the tolerance.
      */
     bool Inverse(matrix3& result, double tolerance = EPSILON) const;
-    /** The inverse, or the adjoint when the absolute determinant is at most the tolerance. */
+    /// The inverse, or the adjoint when the absolute determinant is at most the tolerance.
     [[nodiscard]] matrix3 Inverse(double tolerance = EPSILON) const;
 
-    /** True unless each column's squared length is within 0.0001 of 1, the bound included. */
+    /// True unless each column's squared length is within 0.0001 of 1, the bound included.
     [[nodiscard]] bool hasScale() const;
 
-    /** @name Decompositions */
-    /** @{ */
+    /// @name Decompositions
+    /// @{
     /**
      * Householder reduction of a to upper bidiagonal form, in place.
      *
      * The input is left * a * right with the rotations (and reflections) that come out.
      */
     static void Bidiagonalize(matrix3& a, matrix3& left, matrix3& right);
-    /** One implicit-shift QR step on a bidiagonal a; left * a * right stays what it was. */
+    /// One implicit-shift QR step on a bidiagonal a; left * a * right stays what it was.
     static void GolubKahanStep(matrix3& a, matrix3& left, matrix3& right);
     /**
      * This matrix as left * diag(values) * right.
@@ -143,9 +140,9 @@ public:
      * @param right  Orthogonal; its rows belong to the values.
      */
     void SingularValueDecomposition(matrix3& left, vector3& values, matrix3& right) const;
-    /** Sets this matrix to left * diag(values) * right. */
+    /// Sets this matrix to left * diag(values) * right.
     void SingularValueComposition(const matrix3& left, const vector3& values, const matrix3& right);
-    /** Gram-Schmidt on the columns in order. A zero column becomes not finite. */
+    /// Gram-Schmidt on the columns in order. A zero column becomes not finite.
     void Orthonormalize();
     /**
      * This matrix as q * diag(d) * u by Gram-Schmidt.
@@ -155,14 +152,14 @@ public:
      * @param u The shears u[0][1], u[0][2] and u[1][2] of an upper triangle with ones on its diagonal.
      */
     void QDUDecomposition(matrix3& q, vector3& d, vector3& u) const;
-    /** The largest singular value. */
+    /// The largest singular value.
     [[nodiscard]] double SpectralNorm() const;
-    /** The largest root of x^3 + c[2] x^2 + c[1] x + c[0], for a cubic with three real roots. */
+    /// The largest root of x^3 + c[2] x^2 + c[1] x + c[0], for a cubic with three real roots.
     [[nodiscard]] static double MaxCubicRoot(const double coefficients[3]);
-    /** @} */
+    /// @}
 
-    /** @name Rotations */
-    /** @{ */
+    /// @name Rotations
+    /// @{
     /**
      * Axis and angle of a rotation; the angle is 0 to PI.
      *
@@ -173,7 +170,7 @@ public:
      */
     void ToAngleAxis(vector3& axis, radian& rotation) const;
     void ToAngleAxis(vector3& axis, degree& rotation) const;
-    /** @param axis Unit; it is not normalised. Right-handed about the axis. */
+    /// @param axis Unit; it is not normalised. Right-handed about the axis.
     void FromAngleAxis(const vector3& axis, const radian& rotation);
 
     /**
@@ -189,17 +186,17 @@ public:
     bool ToEulerAnglesYZX(radian& a, radian& b, radian& c) const;
     bool ToEulerAnglesZXY(radian& a, radian& b, radian& c) const;
     bool ToEulerAnglesZYX(radian& a, radian& b, radian& c) const;
-    /** Sets the product of three plain rotations in the order of the name: XYZ is Rx(a) * Ry(b) * Rz(c). */
+    /// Sets the product of three plain rotations in the order of the name: XYZ is Rx(a) * Ry(b) * Rz(c).
     void FromEulerAnglesXYZ(const radian& a, const radian& b, const radian& c);
     void FromEulerAnglesXZY(const radian& a, const radian& b, const radian& c);
     void FromEulerAnglesYXZ(const radian& a, const radian& b, const radian& c);
     void FromEulerAnglesYZX(const radian& a, const radian& b, const radian& c);
     void FromEulerAnglesZXY(const radian& a, const radian& b, const radian& c);
     void FromEulerAnglesZYX(const radian& a, const radian& b, const radian& c);
-    /** @} */
+    /// @}
 
-    /** @name Symmetric eigenproblem */
-    /** @{ */
+    /// @name Symmetric eigenproblem
+    /// @{
     /**
      * Householder reduction of this symmetric matrix to tridiagonal form; this becomes the transformation.
      * @param subdiagonal The two elements beside the diagonal, then 0.
@@ -218,21 +215,21 @@ public:
      * @return False if the iteration gave up; the outputs then hold its last state.
      */
     bool EigenSolveSymmetric(double values[3], vector3 vectors[3]) const;
-    /** out[r][c] = u[r] * v[c]. */
+    /// out[r][c] = u[r] * v[c].
     static void TensorProduct(const vector3& u, const vector3& v, matrix3& out);
-    /** @} */
+    /// @}
 
 private:
     double m[3][3];
 };
 
-/** The row vector with the columns. */
-constexpr vector3 operator*(const vector3& v, const matrix3& a)
+/// The row vector with the columns.
+QORIN_API constexpr vector3 operator*(const vector3& v, const matrix3& a)
 {
     return {v.x * a[0][0] + v.y * a[1][0] + v.z * a[2][0], v.x * a[0][1] + v.y * a[1][1] + v.z * a[2][1],
             v.x * a[0][2] + v.y * a[1][2] + v.z * a[2][2]};
 }
-constexpr matrix3 operator*(double scalar, const matrix3& a)
+QORIN_API constexpr matrix3 operator*(double scalar, const matrix3& a)
 {
     return a * scalar;
 }

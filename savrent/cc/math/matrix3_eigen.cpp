@@ -9,7 +9,7 @@ namespace
 {
 constexpr int most_iterations = 32;
 
-/** The first index from start on after which the tridiagonal matrix falls apart. */
+/// The first index from start on after which the tridiagonal matrix falls apart.
 std::size_t end_of_block(const double diagonal[3], const double subdiagonal[3], std::size_t start)
 {
     std::size_t end = start;
@@ -17,15 +17,13 @@ std::size_t end_of_block(const double diagonal[3], const double subdiagonal[3], 
     {
         const double neighbours = std::fabs(diagonal[end]) + std::fabs(diagonal[end + 1]);
         if (std::fabs(subdiagonal[end]) <= std::numeric_limits<double>::epsilon() * 0.5 * neighbours)
-        {
             break;
-        }
         ++end;
     }
     return end;
 }
 
-/** One QL sweep with Wilkinson's shift over the block from first to last, the rotations gathered in vectors. */
+/// One QL sweep with Wilkinson's shift over the block from first to last, the rotations gathered in vectors.
 void ql_sweep(double diagonal[3], double subdiagonal[3], std::size_t first, std::size_t last, matrix3& vectors)
 {
     const double ratio = (diagonal[first + 1] - diagonal[first]) / (2.0 * subdiagonal[first]);
@@ -106,13 +104,9 @@ bool matrix3::QLAlgorithm(double diagonal[3], double subdiagonal[3])
         {
             const std::size_t last = end_of_block(diagonal, subdiagonal, first);
             if (last == first)
-            {
                 break;
-            }
             if (iteration == most_iterations)
-            {
                 return false;
-            }
             ql_sweep(diagonal, subdiagonal, first, last, *this);
         }
     }
@@ -126,13 +120,9 @@ bool matrix3::EigenSolveSymmetric(double values[3], vector3 vectors[3]) const
     transformed.Tridiagonal(values, subdiagonal);
     const bool converged = transformed.QLAlgorithm(values, subdiagonal);
     for (std::size_t i = 0; i < 3; ++i)
-    {
         vectors[i] = transformed.GetColumn(i);
-    }
     if (vectors[0].dotProduct(vectors[1].crossProduct(vectors[2])) < 0.0)
-    {
         vectors[0] = -vectors[0];
-    }
     return converged;
 }
 

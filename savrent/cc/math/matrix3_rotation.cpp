@@ -6,14 +6,14 @@ namespace savrent::cc::math
 {
 namespace
 {
-/** Axes of a product of three plain rotations, by index. */
+/// Axes of a product of three plain rotations, by index.
 struct euler_order
 {
     std::size_t first;
     std::size_t middle;
     std::size_t last;
 
-    /** 1 for a cyclic order, -1 for the others: the sign of the middle sine in the matrix. */
+    /// 1 for a cyclic order, -1 for the others: the sign of the middle sine in the matrix.
     [[nodiscard]] constexpr double sign() const { return (first + 1) % 3 == middle ? 1.0 : -1.0; }
 };
 
@@ -38,7 +38,7 @@ bool to_euler(const matrix3& m, radian& a, radian& b, radian& c)
     return false;
 }
 
-/** Multiplies by a plain rotation from the left, which mixes the two rows of the other axes. */
+/// Multiplies by a plain rotation from the left, which mixes the two rows of the other axes.
 template <std::size_t axis>
 inline void turn_rows(double rows[3][3], double cosine, double sine)
 {
@@ -70,14 +70,12 @@ constexpr euler_order yzx{1, 2, 0};
 constexpr euler_order zxy{2, 0, 1};
 constexpr euler_order zyx{2, 1, 0};
 
-/** Axis of a half turn, from the diagonal element that is the largest. */
+/// Axis of a half turn, from the diagonal element that is the largest.
 vector3 half_turn_axis(const matrix3& m)
 {
     std::size_t i = m[0][0] >= m[1][1] ? 0 : 1;
     if (m[2][2] > m[i][i])
-    {
         i = 2;
-    }
     const std::size_t j = i == 0 ? 1 : 0;
     const std::size_t k = i == 2 ? 1 : 2;
     const double r = std::sqrt(m[i][i] - m[j][j] - m[k][k] + 1.0);

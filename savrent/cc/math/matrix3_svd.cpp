@@ -7,30 +7,28 @@ namespace savrent::cc::math
 {
 namespace
 {
-/** Squares below it have lost digits to underflow. */
+/// Squares below it have lost digits to underflow.
 constexpr double smallest_square = 1e-280;
 
-/** A plane rotation: cosine and sine. */
+/// A plane rotation: cosine and sine.
 struct givens
 {
     double c = 1.0;
     double s = 0.0;
 
-    /** The rotation that turns (x, z) to (length, 0). */
+    /// The rotation that turns (x, z) to (length, 0).
     static givens onto_first(double x, double z)
     {
         const double squared = x * x + z * z;
         const double length = squared > smallest_square ? std::sqrt(squared) : std::hypot(x, z);
         if (!(length > 0.0))
-        {
             return {};
-        }
         const double inverse = 1.0 / length;
         return {x * inverse, z * inverse};
     }
 };
 
-/** a = a * G: column i takes c * i + s * j. */
+/// a = a * G: column i takes c * i + s * j.
 template <std::size_t i, std::size_t j>
 inline void turn_columns(matrix3& a, const givens& g)
 {
@@ -43,7 +41,7 @@ inline void turn_columns(matrix3& a, const givens& g)
     }
 }
 
-/** a = G transposed * a: row i takes c * i + s * j. */
+/// a = G transposed * a: row i takes c * i + s * j.
 template <std::size_t i, std::size_t j>
 inline void turn_rows(matrix3& a, const givens& g)
 {
@@ -56,20 +54,18 @@ inline void turn_rows(matrix3& a, const givens& g)
     }
 }
 
-/** The Householder vector that reflects v onto an axis, scaled so that the reflection is I - h h^T. */
+/// The Householder vector that reflects v onto an axis, scaled so that the reflection is I - h h^T.
 vector3 householder(const vector3& v, std::size_t onto)
 {
     const double length = v.length();
     if (!(length > 0.0))
-    {
         return {};
-    }
     vector3 h = v;
     h[onto] += v[onto] < 0.0 ? -length : length;
     return h * (1.0 / std::sqrt(length * std::fabs(h[onto])));
 }
 
-/** a = (I - h h^T) * a */
+/// a = (I - h h^T) * a
 void reflect_rows(matrix3& a, const vector3& h)
 {
     const vector3 along = h * a;
@@ -81,7 +77,7 @@ void reflect_rows(matrix3& a, const vector3& h)
     }
 }
 
-/** a = a * (I - h h^T) */
+/// a = a * (I - h h^T)
 void reflect_columns(matrix3& a, const vector3& h)
 {
     const vector3 along = a * h;
@@ -93,7 +89,7 @@ void reflect_columns(matrix3& a, const vector3& h)
     }
 }
 
-/** Diagonalises the upper triangular 2 by 2 block at rows and columns i, j with one rotation on each side. */
+/// Diagonalises the upper triangular 2 by 2 block at rows and columns i, j with one rotation on each side.
 template <std::size_t i, std::size_t j>
 void diagonalise_block(matrix3& b, matrix3& left, matrix3& right)
 {
@@ -120,7 +116,7 @@ void diagonalise_block(matrix3& b, matrix3& left, matrix3& right)
     turn_columns<i, j>(left, on_left);
 }
 
-/** Eigenvalue of the trailing 2 by 2 block of b transposed times b that is nearer to its last element. */
+/// Eigenvalue of the trailing 2 by 2 block of b transposed times b that is nearer to its last element.
 double wilkinson_shift(const matrix3& b)
 {
     const double upper = b[0][1] * b[0][1] + b[1][1] * b[1][1];
@@ -188,9 +184,7 @@ void matrix3::Bidiagonalize(matrix3& a, matrix3& left, matrix3& right)
 void matrix3::GolubKahanStep(matrix3& a, matrix3& left, matrix3& right)
 {
     if (chase_zero_diagonal(a, left))
-    {
         return;
-    }
     const givens shift = givens::onto_first(a[0][0] * a[0][0] - wilkinson_shift(a), a[0][0] * a[0][1]);
     turn_columns<0, 1>(a, shift);
     turn_rows<0, 1>(right, shift);
@@ -224,13 +218,9 @@ void matrix3::SingularValueDecomposition(matrix3& left, vector3& values, matrix3
             continue;
         }
         if (!lower_is_zero)
-        {
             diagonalise_block<1, 2>(b, left, right);
-        }
         else if (!upper_is_zero)
-        {
             diagonalise_block<0, 1>(b, left, right);
-        }
         break;
     }
     values = {b[0][0], b[1][1], b[2][2]};

@@ -10,7 +10,7 @@ namespace savrent::cc::math
 {
 namespace
 {
-/** Two doubles that the processor multiplies at once. */
+/// Two doubles that the processor multiplies at once.
 using pair_t = double __attribute__((vector_size(16)));
 
 inline pair_t both(double value)
@@ -52,7 +52,7 @@ public:
                minors[3][0] * minors[2][1] - minors[4][0] * minors[1][1] + minors[5][0] * minors[0][1];
     }
 
-    /** The adjoint times a factor. */
+    /// The adjoint times a factor.
     [[nodiscard]] matrix4 adjoint(double factor) const
     {
         matrix4 result;
@@ -68,9 +68,7 @@ private:
     {
         pair_t m[6];
         for (std::size_t k = 0; k < 6; ++k)
-        {
             m[k] = both(minors[k][half]);
-        }
         // The factor comes last, so that the division that makes it runs beside the products.
         const pair_t signs{factor, -factor};
         store<column>(result[0], (turned[1] * m[5] - turned[2] * m[4] + turned[3] * m[3]) * signs);
@@ -85,7 +83,7 @@ private:
         row[column + 1] = value[1];
     }
 
-    pair_t minors[6]; /**< by columns 01, 02, 03, 12, 13, 23; of the upper, then of the lower rows */
+    pair_t minors[6]; ///< by columns 01, 02, 03, 12, 13, 23; of the upper, then of the lower rows
     pair_t turned_upper[4];
     pair_t turned_lower[4];
 };
@@ -112,12 +110,8 @@ matrix4 matrix4::operator*(double scalar) const
 {
     matrix4 result;
     for (std::size_t r = 0; r < 4; ++r)
-    {
         for (std::size_t c = 0; c < 4; ++c)
-        {
             result[r][c] = m[r][c] * scalar;
-        }
-    }
     return result;
 }
 
@@ -125,12 +119,8 @@ matrix4 matrix4::operator+(const matrix4& b) const
 {
     matrix4 result;
     for (std::size_t r = 0; r < 4; ++r)
-    {
         for (std::size_t c = 0; c < 4; ++c)
-        {
             result[r][c] = m[r][c] + b[r][c];
-        }
-    }
     return result;
 }
 
@@ -244,9 +234,7 @@ matrix4 matrix4::concatenateAffine(const matrix4& b) const
     for (std::size_t r = 0; r < 3; ++r)
     {
         for (std::size_t c = 0; c < 4; ++c)
-        {
             product[r][c] = m[r][0] * b[0][c] + m[r][1] * b[1][c] + m[r][2] * b[2][c];
-        }
         product[r][3] += m[r][3];
     }
     return product;
@@ -303,9 +291,7 @@ std::ostream& operator<<(std::ostream& out, const matrix4& a)
     {
         out << " row" << r << ":";
         for (std::size_t c = 0; c < 4; ++c)
-        {
             out << a[r][c] << " ";
-        }
         out << "\n";
     }
     return out << ")";

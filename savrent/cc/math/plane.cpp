@@ -29,9 +29,7 @@ plane::side plane::getSide(const vector3& centre, const vector3& half_size) cons
 plane::side plane::getSide(const axisAlignedBox& box) const
 {
     if (box.isNull())
-    {
         return NO_SIDE;
-    }
     return box.isInfinite() ? BOTH_SIDE : getSide(box.getCenter(), box.getHalfSize());
 }
 

@@ -22,9 +22,7 @@ void quaternion::FromRotationMatrix(const matrix3& rotation)
     static constexpr std::size_t next[3] = {1, 2, 0};
     std::size_t i = m[1][1] > m[0][0] ? 1 : 0;
     if (m[2][2] > m[i][i])
-    {
         i = 2;
-    }
     const std::size_t j = next[i];
     const std::size_t k = next[j];
     const double r = std::sqrt(m[i][i] - m[j][j] - m[k][k] + 1.0);
@@ -110,27 +108,21 @@ vector3 quaternion::zAxis() const
 radian quaternion::getRoll(bool project) const
 {
     if (project)
-    {
         return util::ATan2(2.0 * z * w + 2.0 * x * y, 1.0 - (2.0 * y * y + 2.0 * z * z));
-    }
     return util::ATan2(2.0 * (x * y + w * z), w * w + x * x - y * y - z * z);
 }
 
 radian quaternion::getPitch(bool project) const
 {
     if (project)
-    {
         return util::ATan2(2.0 * x * w + 2.0 * z * y, 1.0 - (2.0 * x * x + 2.0 * z * z));
-    }
     return util::ATan2(2.0 * (y * z + w * x), w * w - x * x - y * y + z * z);
 }
 
 radian quaternion::getYaw(bool project) const
 {
     if (project)
-    {
         return util::ATan2(2.0 * y * w + 2.0 * x * z, 1.0 - (2.0 * x * x + 2.0 * y * y));
-    }
     return util::ASin(-2.0 * (x * z - w * y));
 }
 
@@ -202,9 +194,7 @@ quaternion quaternion::SlerpExtraSpins(double t, const quaternion& p, const quat
 {
     const double half = util::ACos(p.Dot(q)).valueRadians();
     if (std::fabs(half) < msEpsilon)
-    {
         return p;
-    }
     const double sine = std::sin(half);
     const double phase = util::PI * spins * t;
     return p * (std::sin((1.0 - t) * half - phase) / sine) + q * (std::sin(t * half + phase) / sine);

@@ -30,7 +30,7 @@ inline constexpr double degrees_per_radian = 180.0 / pi;
 class QORIN_API radian
 {
 public:
-    double mRad; /**< radians */
+    double mRad; ///< radians
 
     constexpr explicit radian(double radians = 0.0) : mRad(radians) {}
     constexpr radian(const degree& other);
@@ -44,7 +44,7 @@ public:
 
     [[nodiscard]] constexpr double valueRadians() const { return mRad; }
     [[nodiscard]] constexpr double valueDegrees() const { return mRad * detail::degrees_per_radian; }
-    /** The value in the process-wide unit of util::setAngleUnit(). */
+    /// The value in the process-wide unit of util::setAngleUnit().
     [[nodiscard]] double valueAngleUnits() const;
 
     constexpr const radian& operator+() const { return *this; }
@@ -65,21 +65,28 @@ public:
     constexpr radian operator/(double divisor) const { return radian(mRad / divisor); }
     constexpr radian& operator/=(double divisor) { return *this = mRad / divisor; }
 
-    /** Raw values compared exactly: gives ==, !=, <, <=, > and >=. */
-    constexpr auto operator<=>(const radian& other) const = default;
+    /// @name Raw values compared exactly
+    /// @{
+    constexpr bool operator==(const radian& other) const { return mRad == other.mRad; }
+    constexpr bool operator!=(const radian& other) const { return mRad != other.mRad; }
+    constexpr bool operator<(const radian& other) const { return mRad < other.mRad; }
+    constexpr bool operator<=(const radian& other) const { return mRad <= other.mRad; }
+    constexpr bool operator>(const radian& other) const { return mRad > other.mRad; }
+    constexpr bool operator>=(const radian& other) const { return mRad >= other.mRad; }
+    /// @}
 };
 
-constexpr radian operator*(double factor, const radian& value)
+QORIN_API constexpr radian operator*(double factor, const radian& value)
 {
     return radian(factor * value.mRad);
 }
-/** The number divided by the raw value. */
-constexpr radian operator/(double number, const radian& value)
+/// The number divided by the raw value.
+QORIN_API constexpr radian operator/(double number, const radian& value)
 {
     return radian(number / value.mRad);
 }
 
-/** Writes "Radian(", the value, ")". */
+/// Writes "Radian(", the value, ")".
 QORIN_API std::ostream& operator<<(std::ostream& out, const radian& value);
 } // namespace savrent::cc::math
 

@@ -13,7 +13,7 @@ namespace savrent::cc::math
 class axisAlignedBox;
 class plane;
 
-/** A solid sphere, by default of radius 1 at the origin. Touching counts as intersecting. */
+/// A solid sphere, by default of radius 1 at the origin. Touching counts as intersecting.
 class QORIN_API sphere
 {
 public:
@@ -37,7 +37,7 @@ public:
     [[nodiscard]] bool intersects(const axisAlignedBox& box) const;
     [[nodiscard]] bool intersects(const plane& p) const;
 
-    /** Grows to the smallest sphere that holds both. */
+    /// Grows to the smallest sphere that holds both.
     void merge(const sphere& other);
 
 private:

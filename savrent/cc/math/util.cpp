@@ -7,7 +7,7 @@ namespace savrent::cc::math
 {
 namespace
 {
-/** The divisor of rand() is the smallest RAND_MAX that a C library may have. */
+/// The divisor of rand() is the smallest RAND_MAX that a C library may have.
 constexpr int smallest_rand_max = 32767;
 
 std::vector<double> sine_store;
@@ -65,9 +65,7 @@ void util::createTrigTables(int size)
     }
     const auto entries = static_cast<std::size_t>(size);
     if (sine_store.size() == entries)
-    {
         return;
-    }
     sine_store.resize(entries);
     // The remainder of a negative angle is negative, so the tangents reach as far below entry 0 as above it.
     tangent_store.resize(2 * entries - 1);
@@ -79,9 +77,7 @@ void util::createTrigTables(int size)
 void util::buildTrigTables()
 {
     if (mSinTable == nullptr)
-    {
         return;
-    }
     for (int i = 0; i < mTrigTableSize; ++i)
     {
         const double radians = i * TWO_PI / mTrigTableSize;
@@ -102,9 +98,7 @@ void util::destroyTrigTables()
 double util::SinTable(double radians)
 {
     if (radians >= 0.0)
-    {
         return mSinTable[static_cast<int>(radians * mTrigTableFactor) % mTrigTableSize];
-    }
     return mSinTable[mTrigTableSize - static_cast<int>(-radians * mTrigTableFactor) % mTrigTableSize - 1];
 }
 

@@ -37,19 +37,19 @@ class vector4;
 class QORIN_API util
 {
 public:
-    /** Unit of plain numbers that stand for angles. */
+    /// Unit of plain numbers that stand for angles.
     enum angleUnit
     {
         AU_DEGREE = 0,
         AU_RADIAN = 1
     };
 
-    /** Source of random numbers for UnitRandom(); owned by whoever installs it. */
+    /// Source of random numbers for UnitRandom(); owned by whoever installs it.
     class QORIN_API randomValueProvider
     {
     public:
         virtual ~randomValueProvider();
-        /** A value from 0 to 1. */
+        /// A value from 0 to 1.
         virtual double getRandomUnit() = 0;
     };
 
@@ -60,24 +60,24 @@ public:
     static constexpr double HALF_PI = 0.5 * detail::pi;
     static constexpr double fDeg2Rad = detail::radians_per_degree;
     static constexpr double fRad2Deg = detail::degrees_per_radian;
-    /** Natural logarithm of 2. */
+    /// Natural logarithm of 2.
     static constexpr double LOG2 = 0.69314718055994530942;
 
     static angleUnit msAngleUnit;
     static int mTrigTableSize;
-    /** Table entries per radian. */
+    /// Table entries per radian.
     static double mTrigTableFactor;
     static double* mSinTable;
-    /** Entry 0 of the tangents; entries from -(size - 1) on are there for negative angles. */
+    /// Entry 0 of the tangents; entries from -(size - 1) on are there for negative angles.
     static double* mTanTable;
     static randomValueProvider* mRandProvider;
 
-    /** @name Integers and floats */
-    /** @{ */
+    /// @name Integers and floats
+    /// @{
     static constexpr int IAbs(int value) { return value >= 0 ? value : -value; }
     static int ICeil(float value) { return static_cast<int>(std::ceil(value)); }
     static int IFloor(float value) { return static_cast<int>(std::floor(value)); }
-    /** 1, -1 or 0. */
+    /// 1, -1 or 0.
     static constexpr int ISign(int value) { return value > 0 ? 1 : (value < 0 ? -1 : 0); }
 
     static double Abs(double value) { return std::fabs(value); }
@@ -86,46 +86,46 @@ public:
     static double Ceil(double value) { return std::ceil(value); }
     static double Floor(double value) { return std::floor(value); }
 
-    /** 1, -1 or 0; also 0 for NaN. */
+    /// 1, -1 or 0; also 0 for NaN.
     static constexpr double Sign(double value) { return value > 0.0 ? 1.0 : (value < 0.0 ? -1.0 : 0.0); }
     static constexpr radian Sign(const radian& value) { return radian(Sign(value.valueRadians())); }
     static constexpr degree Sign(const degree& value) { return degree(Sign(value.valueDegrees())); }
 
     static constexpr double Sqr(double value) { return value * value; }
     static double Sqrt(double value) { return std::sqrt(value); }
-    /** The root of the raw value. */
+    /// The root of the raw value.
     static radian Sqrt(const radian& value) { return radian(std::sqrt(value.valueRadians())); }
-    /** The root of the raw value. */
+    /// The root of the raw value.
     static degree Sqrt(const degree& value) { return degree(std::sqrt(value.valueDegrees())); }
-    /** 1 / sqrt(value): infinity for 0. */
+    /// 1 / sqrt(value): infinity for 0.
     static double InvSqrt(double value) { return 1.0 / std::sqrt(value); }
     static double Pow(double base, double exponent) { return std::pow(base, exponent); }
     static double Exp(double value) { return std::exp(value); }
     static double Log(double value) { return std::log(value); }
     static double Log2(double value) { return std::log(value) / LOG2; }
     static double LogN(double base, double value) { return std::log(value) / std::log(base); }
-    /** @} */
+    /// @}
 
-    /** @name Limits */
-    /** @{ */
+    /// @name Limits
+    /// @{
     static constexpr float saturate(float value) { return value < 0.0F ? 0.0F : (value > 1.0F ? 1.0F : value); }
     static constexpr double saturate(double value) { return value < 0.0 ? 0.0 : (value > 1.0 ? 1.0 : value); }
-    /** The larger of low and the smaller of value and high. */
+    /// The larger of low and the smaller of value and high.
     template <typename T>
     static constexpr T Clamp(T value, T low, T high)
     {
         return std::max(std::min(value, high), low);
     }
-    /** True if the absolute difference is at most the tolerance, the bound included. */
+    /// True if the absolute difference is at most the tolerance, the bound included.
     static bool realEqual(double a, double b, double tolerance = std::numeric_limits<double>::epsilon())
     {
         return std::fabs(b - a) <= tolerance;
     }
     static constexpr bool isNaN(double value) { return value != value; }
-    /** @} */
+    /// @}
 
-    /** @name Angles; "angle units" are degrees unless setAngleUnit() said otherwise */
-    /** @{ */
+    /// @name Angles; "angle units" are degrees unless setAngleUnit() said otherwise
+    /// @{
     static constexpr double DegreesToRadians(double degrees) { return degrees * fDeg2Rad; }
     static constexpr double RadiansToDegrees(double radians) { return radians * fRad2Deg; }
     static void setAngleUnit(angleUnit unit);
@@ -134,10 +134,10 @@ public:
     static double RadiansToAngleUnits(double radians);
     static double AngleUnitsToDegrees(double units);
     static double DegreesToAngleUnits(double degrees);
-    /** @} */
+    /// @}
 
-    /** @name Trigonometry in radians; tables are used only when asked for and built */
-    /** @{ */
+    /// @name Trigonometry in radians; tables are used only when asked for and built
+    /// @{
     static double Sin(double radians, bool use_tables = false)
     {
         return use_tables && mSinTable != nullptr ? SinTable(radians) : std::sin(radians);
@@ -154,22 +154,18 @@ public:
     }
     static double Tan(const radian& value, bool use_tables = false) { return Tan(value.valueRadians(), use_tables); }
 
-    /** Arc cosine that noise cannot turn into NaN: PI unless the value is above -1 (so for NaN too), 0 from 1 on. */
+    /// Arc cosine that noise cannot turn into NaN: PI unless the value is above -1 (so for NaN too), 0 from 1 on.
     static radian ACos(double value)
     {
         if (!(value > -1.0))
-        {
             return radian(PI);
-        }
         return radian(value < 1.0 ? std::acos(value) : 0.0);
     }
-    /** Arc sine, limited like ACos(): -HALF_PI unless the value is above -1 (so for NaN too), HALF_PI from 1 on. */
+    /// Arc sine, limited like ACos(): -HALF_PI unless the value is above -1 (so for NaN too), HALF_PI from 1 on.
     static radian ASin(double value)
     {
         if (!(value > -1.0))
-        {
             return radian(-HALF_PI);
-        }
         return radian(value < 1.0 ? std::asin(value) : HALF_PI);
     }
     static radian ATan(double value) { return radian(std::atan(value)); }
@@ -184,16 +180,16 @@ public:
      */
     static void createTrigTables(int size = 4096);
     static void destroyTrigTables();
-    /** Fills the allocated tables, if there are any; createTrigTables() calls it. */
+    /// Fills the allocated tables, if there are any; createTrigTables() calls it.
     static void buildTrigTables();
-    /** The sine's table entry below the angle. Needs tables, and an angle whose entry number fits an int. */
+    /// The sine's table entry below the angle. Needs tables, and an angle whose entry number fits an int.
     static double SinTable(double radians);
-    /** The tangent's table entry on the zero side of the angle. Needs what SinTable() needs. */
+    /// The tangent's table entry on the zero side of the angle. Needs what SinTable() needs.
     static double TanTable(double radians);
-    /** @} */
+    /// @}
 
-    /** @name Random */
-    /** @{ */
+    /// @name Random
+    /// @{
     /**
      * A value from the provider.
      *
@@ -203,16 +199,16 @@ public:
     static double UnitRandom();
     static double RangeRandom(double low, double high) { return (high - low) * UnitRandom() + low; }
     static double SymmetricRandom() { return 2.0 * UnitRandom() - 1.0; }
-    /** Installs a provider, or none with null. The caller keeps it alive as long as it is installed. */
+    /// Installs a provider, or none with null. The caller keeps it alive as long as it is installed.
     static void SetRandomValueProvider(randomValueProvider* provider);
-    /** @} */
+    /// @}
 
-    /** Density of the normal distribution. */
+    /// Density of the normal distribution.
     static double gaussianDistribution(double x, double offset = 0.0, double scale = 1.0);
 
-    /** @name Intersections; a pair is the hit flag and the distance along the ray in units of its direction */
-    /** @{ */
-    /** The distance is given also for a plane behind the origin; a ray that runs along the plane gives (false, 0). */
+    /// @name Intersections; a pair is the hit flag and the distance along the ray in units of its direction
+    /// @{
+    /// The distance is given also for a plane behind the origin; a ray that runs along the plane gives (false, 0).
     static std::pair<bool, double> intersects(const ray& r, const plane& p);
     /**
      * A ray and a convex volume bounded by planes.
@@ -225,7 +221,7 @@ public:
      * @param discard_inside Whether an origin within the sphere answers (true, 0) at once.
      */
     static std::pair<bool, double> intersects(const ray& r, const sphere& s, bool discard_inside = true);
-    /** An origin strictly inside, and an infinite box, give (true, 0). */
+    /// An origin strictly inside, and an infinite box, give (true, 0).
     static std::pair<bool, double> intersects(const ray& r, const axisAlignedBox& box);
     /**
      * Entry and exit of a ray in a box, each null if not wanted; untouched when the box is missed.
@@ -242,21 +238,21 @@ public:
     static std::pair<bool, double> intersects(const ray& r, const vector3& a, const vector3& b, const vector3& c,
                                               bool positive_side = true, bool negative_side = true);
     static bool intersects(const sphere& s, const axisAlignedBox& box);
-    /** Whether the box has points on both sides, or touches. */
+    /// Whether the box has points on both sides, or touches.
     static bool intersects(const plane& p, const axisAlignedBox& box);
     static bool intersects(const sphere& s, const plane& p);
-    /** @} */
+    /// @}
 
-    /** @name Triangles, borders included; the winding does not matter */
-    /** @{ */
+    /// @name Triangles, borders included; the winding does not matter
+    /// @{
     static bool pointInTri2D(const vector2& p, const vector2& a, const vector2& b, const vector2& c);
-    /** @param p A point in the plane of the triangle. @param normal Normal of that plane, of any length. */
+    /// @param p A point in the plane of the triangle. @param normal Normal of that plane, of any length.
     static bool pointInTri3D(const vector3& p, const vector3& a, const vector3& b, const vector3& c,
                              const vector3& normal);
-    /** The plane of a face as (normal, d), the normal of unit length and towards counter-clockwise corners. */
+    /// The plane of a face as (normal, d), the normal of unit length and towards counter-clockwise corners.
     static vector4 calculateFaceNormal(const vector3& v1, const vector3& v2, const vector3& v3);
     static vector3 calculateBasicFaceNormal(const vector3& v1, const vector3& v2, const vector3& v3);
-    /** As above with the normal as the cross product leaves it: its length is twice the area. */
+    /// As above with the normal as the cross product leaves it: its length is twice the area.
     static vector4 calculateFaceNormalWithoutNormalize(const vector3& v1, const vector3& v2, const vector3& v3);
     static vector3 calculateBasicFaceNormalWithoutNormalize(const vector3& v1, const vector3& v2, const vector3& v3);
     /**
@@ -267,9 +263,9 @@ public:
     static vector3 calculateTangentSpaceVector(const vector3& position1, const vector3& position2,
                                                const vector3& position3, double u1, double v1, double u2, double v2,
                                                double u3, double v3);
-    /** @} */
+    /// @}
 
-    /** Mirrors points at a plane with a unit normal. */
+    /// Mirrors points at a plane with a unit normal.
     static matrix4 buildReflectionMatrix(const plane& p);
     /**
      * World to view, for a right-handed view that looks along its negative z.
@@ -277,7 +273,7 @@ public:
      */
     static matrix4 makeViewMatrix(const vector3& position, const quaternion& orientation,
                                   const matrix4* reflection = nullptr);
-    /** Radius of the sphere about the world's origin that holds a finite box. */
+    /// Radius of the sphere about the world's origin that holds a finite box.
     static double boundingRadiusFromAABB(const axisAlignedBox& box);
 };
 } // namespace savrent::cc::math

@@ -14,10 +14,10 @@ namespace
 {
 constexpr std::pair<bool, double> miss{false, 0.0};
 constexpr std::pair<bool, double> at_once{true, 0.0};
-/** Denominators below it mean that a ray runs along a plane. */
+/// Denominators below it mean that a ray runs along a plane.
 constexpr double parallel_limit = std::numeric_limits<double>::epsilon();
 
-/** Clips the ray by the half spaces of a convex volume, after Cyrus and Beck. */
+/// Clips the ray by the half spaces of a convex volume, after Cyrus and Beck.
 template <typename Planes>
 std::pair<bool, double> clip_by_planes(const ray& r, const Planes& planes, bool normal_is_outside)
 {
@@ -30,9 +30,7 @@ std::pair<bool, double> clip_by_planes(const ray& r, const Planes& planes, bool 
         if (p.getSide(r.getOrigin()) == outside)
         {
             if (!crossing.first)
-            {
                 return miss; // outside of this plane for good
-            }
             entry = std::max(entry, crossing.second);
         }
         else if (crossing.first && (p.normal.dotProduct(r.getDirection()) > 0.0) == normal_is_outside)
@@ -43,32 +41,24 @@ std::pair<bool, double> clip_by_planes(const ray& r, const Planes& planes, bool 
     return entry <= exit ? std::pair{true, entry} : miss;
 }
 
-/** Keeps the nearer hit of a ray with the face of a box that lies across an axis. */
+/// Keeps the nearer hit of a ray with the face of a box that lies across an axis.
 void try_face(const ray& r, const axisAlignedBox& box, std::size_t axis, bool low_face, std::pair<bool, double>& best)
 {
     const double face = low_face ? box.getMinimum()[axis] : box.getMaximum()[axis];
     const double from = r.getOrigin()[axis];
     const double along = r.getDirection()[axis];
     if (low_face ? !(from <= face && along > 0.0) : !(from >= face && along < 0.0))
-    {
         return;
-    }
     const double t = (face - from) / along;
     const vector3 point = r.getPoint(t);
     for (std::size_t other = 0; other < 3; ++other)
-    {
         if (other != axis && !(point[other] >= box.getMinimum()[other] && point[other] <= box.getMaximum()[other]))
-        {
             return;
-        }
-    }
     if (t >= 0.0 && (!best.first || t < best.second))
-    {
         best = {true, t};
-    }
 }
 
-/** Whether three signed areas do not have opposite signs: the point is on the same side of all edges. */
+/// Whether three signed areas do not have opposite signs: the point is on the same side of all edges.
 bool same_side(double a, double b, double c)
 {
     return (a >= 0.0 && b >= 0.0 && c >= 0.0) || (a <= 0.0 && b <= 0.0 && c <= 0.0);
@@ -79,9 +69,7 @@ std::pair<bool, double> util::intersects(const ray& r, const plane& p)
 {
     const double denominator = p.normal.dotProduct(r.getDirection());
     if (std::fabs(denominator) < parallel_limit)
-    {
         return miss;
-    }
     const double v = (p.d + p.normal.dotProduct(r.getOrigin())) / denominator;
     return {v <= 0.0, -v};
 }
@@ -101,17 +89,13 @@ std::pair<bool, double> util::intersects(const ray& r, const sphere& s, bool dis
     const vector3 o = r.getOrigin() - s.getCenter();
     const double squared_radius = s.getRadius() * s.getRadius();
     if (o.squaredLength() <= squared_radius && discard_inside)
-    {
         return at_once;
-    }
     const double a = r.getDirection().dotProduct(r.getDirection());
     const double b = 2.0 * o.dotProduct(r.getDirection());
     const double c = o.dotProduct(o) - squared_radius;
     const double discriminant = b * b - 4.0 * a * c;
     if (discriminant < 0.0)
-    {
         return miss;
-    }
     const double root = std::sqrt(discriminant);
     const double near = (-b - root) / (2.0 * a);
     return {true, near < 0.0 ? (root - b) / (2.0 * a) : near};
@@ -120,13 +104,9 @@ std::pair<bool, double> util::intersects(const ray& r, const sphere& s, bool dis
 std::pair<bool, double> util::intersects(const ray& r, const axisAlignedBox& box)
 {
     if (box.isNull())
-    {
         return miss;
-    }
     if (box.isInfinite() || (r.getOrigin() > box.getMinimum() && r.getOrigin() < box.getMaximum()))
-    {
         return at_once;
-    }
     std::pair<bool, double> best = miss;
     for (std::size_t axis = 0; axis < 3; ++axis)
     {
@@ -139,9 +119,7 @@ std::pair<bool, double> util::intersects(const ray& r, const axisAlignedBox& box
 bool util::intersects(const ray& r, const axisAlignedBox& box, double* entry, double* exit)
 {
     if (box.isNull())
-    {
         return false;
-    }
     double start = 0.0;
     double end = POS_INFINITY;
     // The slab method; a ray that runs along a slab is in it for good or not at all.
@@ -153,27 +131,19 @@ bool util::intersects(const ray& r, const axisAlignedBox& box, double* entry, do
         if (along == 0.0)
         {
             if (low > 0.0 || high < 0.0)
-            {
                 return false;
-            }
             continue;
         }
         const auto [first, last] = std::minmax({low / along, high / along});
         start = std::max(start, first);
         end = std::min(end, last);
         if (start > end)
-        {
             return false;
-        }
     }
     if (entry != nullptr)
-    {
         *entry = start;
-    }
     if (exit != nullptr)
-    {
         *exit = end;
-    }
     return true;
 }
 
@@ -186,9 +156,7 @@ std::pair<bool, double> util::intersects(const ray& r, const vector3& a, const v
     const vector3 p = r.getDirection().crossProduct(ac);
     const double determinant = ab.dotProduct(p); // positive when the corners are seen counter-clockwise
     if (std::fabs(determinant) < parallel_limit || !(determinant > 0.0 ? positive_side : negative_side))
-    {
         return miss;
-    }
     const double inverse = 1.0 / determinant;
     const vector3 o = r.getOrigin() - a;
     const double u = o.dotProduct(p) * inverse;
@@ -201,9 +169,7 @@ std::pair<bool, double> util::intersects(const ray& r, const vector3& a, const v
 bool util::intersects(const sphere& s, const axisAlignedBox& box)
 {
     if (!box.isFinite())
-    {
         return box.isInfinite();
-    }
     return s.getRadius() * s.getRadius() >= box.squaredDistance(s.getCenter());
 }
 
@@ -260,9 +226,7 @@ vector3 util::calculateTangentSpaceVector(const vector3& position1, const vector
     const double dv3 = v3 - v1;
     const double determinant = du2 * dv3 - du3 * dv2;
     if (determinant == 0.0)
-    {
         return {};
-    }
     const vector3 tangent = ((position2 - position1) * dv3 - (position3 - position1) * dv2) / determinant;
     return tangent.normalisedCopy();
 }

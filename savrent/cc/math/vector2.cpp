@@ -6,7 +6,7 @@ namespace savrent::cc::math
 {
 namespace
 {
-/** Keeps the quotient finite: the single-precision value of 1e-6. */
+/// Keeps the quotient finite: the single-precision value of 1e-6.
 constexpr double least_length_product = 1e-6F;
 } // namespace
 

@@ -8,9 +8,9 @@ namespace savrent::cc::math
 {
 namespace
 {
-/** Keeps the quotient finite: the single-precision value of 1e-6. */
+/// Keeps the quotient finite: the single-precision value of 1e-6.
 constexpr double least_length_product = 1e-6F;
-/** Cosine below which two directions count as opposite: the single-precision value of 1e-6 - 1. */
+/// Cosine below which two directions count as opposite: the single-precision value of 1e-6 - 1.
 constexpr double opposite_cosine = 1e-6F - 1.0F;
 } // namespace
 
@@ -27,9 +27,7 @@ vector3 vector3::perpendicular() const
 {
     vector3 result = crossProduct(UNIT_X);
     if (result.squaredLength() < 1e-12)
-    {
         result = crossProduct(UNIT_Y);
-    }
     result.normalise();
     return result;
 }
@@ -53,20 +51,14 @@ quaternion vector3::getRotationTo(const vector3& dest, const vector3& fallback_a
     const vector3 to = dest.normalisedCopy();
     const double cosine = from.dotProduct(to);
     if (cosine >= 1.0)
-    {
         return quaternion::IDENTITY;
-    }
     if (cosine < opposite_cosine)
     {
         if (fallback_axis != ZERO)
-        {
             return {radian(util::PI), fallback_axis};
-        }
         vector3 axis = UNIT_X.crossProduct(*this);
         if (axis.isZeroLength())
-        {
             axis = UNIT_Y.crossProduct(*this);
-        }
         axis.normalise();
         return {radian(util::PI), axis};
     }
@@ -99,13 +91,9 @@ vector3 vector3::primaryAxis() const
     const double abs_y = std::fabs(y);
     const double abs_z = std::fabs(z);
     if (abs_x > abs_y && abs_x > abs_z)
-    {
         return x > 0.0 ? UNIT_X : NEGATIVE_UNIT_X;
-    }
     if (!(abs_x > abs_y) && abs_y > abs_z)
-    {
         return y > 0.0 ? UNIT_Y : NEGATIVE_UNIT_Y;
-    }
     return z > 0.0 ? UNIT_Z : NEGATIVE_UNIT_Z;
 }
 

@@ -18,7 +18,7 @@ namespace savrent::cc::math
 {
 class quaternion;
 
-/** A vector or point of space, a column where a matrix multiplies it. Default construction gives zero. */
+/// A vector or point of space, a column where a matrix multiplies it. Default construction gives zero.
 class QORIN_API vector3
 {
 public:
@@ -48,10 +48,10 @@ public:
         other = kept;
     }
 
-    /** Component by index, 0 to 2. */
+    /// Component by index, 0 to 2.
     constexpr double& operator[](std::size_t index) { return index == 0 ? x : index == 1 ? y : z; }
     constexpr double operator[](std::size_t index) const { return index == 0 ? x : index == 1 ? y : z; }
-    /** The 3 components, one after the other. */
+    /// The 3 components, one after the other.
     constexpr double* ptr() { return &x; }
     [[nodiscard]] constexpr const double* ptr() const { return &x; }
 
@@ -66,19 +66,20 @@ public:
     constexpr void set(const vector3& v) { *this = v; }
     [[nodiscard]] constexpr vector2 xy() const { return {x, y}; }
 
-    /** Exact compare. */
+    /// Exact compare.
     constexpr bool operator==(const vector3& other) const = default;
+    constexpr bool operator!=(const vector3& other) const { return !(*this == other); }
 
     constexpr const vector3& operator+() const { return *this; }
     constexpr vector3 operator-() const { return {-x, -y, -z}; }
     constexpr vector3 operator+(const vector3& v) const { return {x + v.x, y + v.y, z + v.z}; }
     constexpr vector3 operator-(const vector3& v) const { return {x - v.x, y - v.y, z - v.z}; }
-    /** By component. */
+    /// By component.
     constexpr vector3 operator*(const vector3& v) const { return {x * v.x, y * v.y, z * v.z}; }
-    /** By component. */
+    /// By component.
     constexpr vector3 operator/(const vector3& v) const { return {x / v.x, y / v.y, z / v.z}; }
     constexpr vector3 operator*(double scalar) const { return {x * scalar, y * scalar, z * scalar}; }
-    /** Multiplies by the reciprocal; a zero divisor gives infinities, and NaN for zero components. */
+    /// Multiplies by the reciprocal; a zero divisor gives infinities, and NaN for zero components.
     constexpr vector3 operator/(double scalar) const { return *this * (1.0 / scalar); }
 
     constexpr vector3& operator+=(const vector3& v) { return *this = *this + v; }
@@ -90,18 +91,18 @@ public:
     constexpr vector3& operator*=(double scalar) { return *this = *this * scalar; }
     constexpr vector3& operator/=(double scalar) { return *this = *this / scalar; }
 
-    /** True only if all components are less. */
+    /// True only if all components are less.
     constexpr bool operator<(const vector3& v) const { return x < v.x && y < v.y && z < v.z; }
-    /** True only if all components are greater. */
+    /// True only if all components are greater.
     constexpr bool operator>(const vector3& v) const { return x > v.x && y > v.y && z > v.z; }
 
     [[nodiscard]] constexpr double dotProduct(const vector3& v) const { return x * v.x + y * v.y + z * v.z; }
-    /** Sum of the absolute products of the components. */
+    /// Sum of the absolute products of the components.
     [[nodiscard]] double absDotProduct(const vector3& v) const
     {
         return std::fabs(x * v.x) + std::fabs(y * v.y) + std::fabs(z * v.z);
     }
-    /** Right-handed: UNIT_X crossed with UNIT_Y is UNIT_Z. */
+    /// Right-handed: UNIT_X crossed with UNIT_Y is UNIT_Z.
     [[nodiscard]] constexpr vector3 crossProduct(const vector3& v) const
     {
         return {y * v.z - z * v.y, z * v.x - x * v.z, x * v.y - y * v.x};
@@ -110,18 +111,16 @@ public:
     [[nodiscard]] double length() const { return std::sqrt(squaredLength()); }
     [[nodiscard]] double distance(const vector3& v) const { return (*this - v).length(); }
     [[nodiscard]] constexpr double squaredDistance(const vector3& v) const { return (*this - v).squaredLength(); }
-    /** Squared length below 1e-12. */
+    /// Squared length below 1e-12.
     [[nodiscard]] constexpr bool isZeroLength() const { return squaredLength() < 1e-12; }
     [[nodiscard]] constexpr bool isNaN() const { return util::isNaN(x) || util::isNaN(y) || util::isNaN(z); }
 
-    /** Makes the length 1 and returns the old one; a zero vector stays zero and returns 0. */
+    /// Makes the length 1 and returns the old one; a zero vector stays zero and returns 0.
     double normalise()
     {
         const double old_length = length();
         if (old_length > 0.0)
-        {
             *this *= 1.0 / old_length;
-        }
         return old_length;
     }
     [[nodiscard]] vector3 normalisedCopy() const
@@ -135,17 +134,17 @@ public:
     {
         return {(x + v.x) * 0.5, (y + v.y) * 0.5, (z + v.z) * 0.5};
     }
-    /** Takes the smaller value of each component. */
+    /// Takes the smaller value of each component.
     constexpr void makeFloor(const vector3& v) { *this = {std::min(x, v.x), std::min(y, v.y), std::min(z, v.z)}; }
-    /** Takes the larger value of each component. */
+    /// Takes the larger value of each component.
     constexpr void makeCeil(const vector3& v) { *this = {std::max(x, v.x), std::max(y, v.y), std::max(z, v.z)}; }
-    /** Mirrors at the plane through the origin with this unit normal. */
+    /// Mirrors at the plane through the origin with this unit normal.
     [[nodiscard]] constexpr vector3 reflect(const vector3& normal) const
     {
         return *this - normal * (2.0 * dotProduct(normal));
     }
 
-    /** A unit vector at a right angle, built from UNIT_X, or from UNIT_Y for vectors along x; zero for zero. */
+    /// A unit vector at a right angle, built from UNIT_X, or from UNIT_Y for vectors along x; zero for zero.
     [[nodiscard]] vector3 perpendicular() const;
     /**
      * This unit vector tilted by the angle, in a random direction around it.
@@ -153,7 +152,7 @@ public:
      * @param up A vector at a right angle to this one, from which the direction is counted; ZERO takes any.
      */
     [[nodiscard]] vector3 randomDeviant(const radian& deviation, const vector3& up = ZERO) const;
-    /** 0 to PI. For vectors whose lengths multiply to less than 1e-6 it tends to a quarter turn. */
+    /// 0 to PI. For vectors whose lengths multiply to less than 1e-6 it tends to a quarter turn.
     [[nodiscard]] radian angleBetween(const vector3& dest) const;
     /**
      * The shortest turn that leads this vector's direction to that of dest.
@@ -162,43 +161,43 @@ public:
      */
     [[nodiscard]] quaternion getRotationTo(const vector3& dest, const vector3& fallback_axis = ZERO) const;
 
-    /** Each component within the tolerance, the bound included. */
+    /// Each component within the tolerance, the bound included.
     [[nodiscard]] bool positionEquals(const vector3& v, double tolerance) const;
-    /** The distance is at most the tolerance times the sum of both lengths. */
+    /// The distance is at most the tolerance times the sum of both lengths.
     [[nodiscard]] bool positionCloses(const vector3& v, double tolerance) const;
-    /** The angle between two unit vectors is at most the tolerance. */
+    /// The angle between two unit vectors is at most the tolerance.
     [[nodiscard]] bool directionEquals(const vector3& v, const radian& tolerance) const;
-    /** The signed unit vector of the axis with the largest component; of equal ones the later axis. */
+    /// The signed unit vector of the axis with the largest component; of equal ones the later axis.
     [[nodiscard]] vector3 primaryAxis() const;
 };
 
-constexpr vector3 operator*(double scalar, const vector3& v)
+QORIN_API constexpr vector3 operator*(double scalar, const vector3& v)
 {
     return v * scalar;
 }
-/** The scalar divided by each component. */
-constexpr vector3 operator/(double scalar, const vector3& v)
+/// The scalar divided by each component.
+QORIN_API constexpr vector3 operator/(double scalar, const vector3& v)
 {
     return {scalar / v.x, scalar / v.y, scalar / v.z};
 }
-constexpr vector3 operator+(const vector3& v, double scalar)
+QORIN_API constexpr vector3 operator+(const vector3& v, double scalar)
 {
     return {v.x + scalar, v.y + scalar, v.z + scalar};
 }
-constexpr vector3 operator+(double scalar, const vector3& v)
+QORIN_API constexpr vector3 operator+(double scalar, const vector3& v)
 {
     return {scalar + v.x, scalar + v.y, scalar + v.z};
 }
-constexpr vector3 operator-(const vector3& v, double scalar)
+QORIN_API constexpr vector3 operator-(const vector3& v, double scalar)
 {
     return {v.x - scalar, v.y - scalar, v.z - scalar};
 }
-constexpr vector3 operator-(double scalar, const vector3& v)
+QORIN_API constexpr vector3 operator-(double scalar, const vector3& v)
 {
     return {scalar - v.x, scalar - v.y, scalar - v.z};
 }
 
-/** Writes "Vector3(x, y, z)". */
+/// Writes "Vector3(x, y, z)".
 QORIN_API std::ostream& operator<<(std::ostream& out, const vector3& v);
 } // namespace savrent::cc::math
 

@@ -15,7 +15,7 @@
 
 namespace savrent::cc::math
 {
-/** A homogeneous point, or the four values of a plane. Default construction leaves the components unset. */
+/// A homogeneous point, or the four values of a plane. Default construction leaves the components unset.
 class QORIN_API vector4
 {
 public:
@@ -37,7 +37,7 @@ public:
         : x(components[0]), y(components[1]), z(components[2]), w(components[3])
     {
     }
-    /** A point: w is 1. */
+    /// A point: w is 1.
     constexpr explicit vector4(const vector3& v) : x(v.x), y(v.y), z(v.z), w(1.0) {}
 
     constexpr void swap(vector4& other)
@@ -47,13 +47,13 @@ public:
         other = kept;
     }
 
-    /** Component by index, 0 to 3. */
+    /// Component by index, 0 to 3.
     constexpr double& operator[](std::size_t index) { return index == 0 ? x : index == 1 ? y : index == 2 ? z : w; }
     constexpr double operator[](std::size_t index) const
     {
         return index == 0 ? x : index == 1 ? y : index == 2 ? z : w;
     }
-    /** The 4 components, one after the other. */
+    /// The 4 components, one after the other.
     constexpr double* ptr() { return &x; }
     [[nodiscard]] constexpr const double* ptr() const { return &x; }
 
@@ -62,25 +62,26 @@ public:
         x = y = z = w = scalar;
         return *this;
     }
-    /** A point: w becomes 1. */
+    /// A point: w becomes 1.
     constexpr vector4& operator=(const vector3& v) { return *this = vector4(v); }
 
     [[nodiscard]] constexpr vector3 xyz() const { return {x, y, z}; }
     [[nodiscard]] constexpr vector2 xy() const { return {x, y}; }
 
-    /** Exact compare. */
+    /// Exact compare.
     constexpr bool operator==(const vector4& other) const = default;
+    constexpr bool operator!=(const vector4& other) const { return !(*this == other); }
 
     constexpr const vector4& operator+() const { return *this; }
     constexpr vector4 operator-() const { return {-x, -y, -z, -w}; }
     constexpr vector4 operator+(const vector4& v) const { return {x + v.x, y + v.y, z + v.z, w + v.w}; }
     constexpr vector4 operator-(const vector4& v) const { return {x - v.x, y - v.y, z - v.z, w - v.w}; }
-    /** By component. */
+    /// By component.
     constexpr vector4 operator*(const vector4& v) const { return {x * v.x, y * v.y, z * v.z, w * v.w}; }
-    /** By component. */
+    /// By component.
     constexpr vector4 operator/(const vector4& v) const { return {x / v.x, y / v.y, z / v.z, w / v.w}; }
     constexpr vector4 operator*(double scalar) const { return {x * scalar, y * scalar, z * scalar, w * scalar}; }
-    /** Multiplies by the reciprocal; a zero divisor gives infinities, and NaN for zero components. */
+    /// Multiplies by the reciprocal; a zero divisor gives infinities, and NaN for zero components.
     constexpr vector4 operator/(double scalar) const { return *this * (1.0 / scalar); }
 
     constexpr vector4& operator+=(const vector4& v) { return *this = *this + v; }
@@ -105,33 +106,33 @@ public:
     }
 };
 
-constexpr vector4 operator*(double scalar, const vector4& v)
+QORIN_API constexpr vector4 operator*(double scalar, const vector4& v)
 {
     return v * scalar;
 }
-/** The scalar divided by each component. */
-constexpr vector4 operator/(double scalar, const vector4& v)
+/// The scalar divided by each component.
+QORIN_API constexpr vector4 operator/(double scalar, const vector4& v)
 {
     return {scalar / v.x, scalar / v.y, scalar / v.z, scalar / v.w};
 }
-constexpr vector4 operator+(const vector4& v, double scalar)
+QORIN_API constexpr vector4 operator+(const vector4& v, double scalar)
 {
     return {v.x + scalar, v.y + scalar, v.z + scalar, v.w + scalar};
 }
-constexpr vector4 operator+(double scalar, const vector4& v)
+QORIN_API constexpr vector4 operator+(double scalar, const vector4& v)
 {
     return {scalar + v.x, scalar + v.y, scalar + v.z, scalar + v.w};
 }
-constexpr vector4 operator-(const vector4& v, double scalar)
+QORIN_API constexpr vector4 operator-(const vector4& v, double scalar)
 {
     return {v.x - scalar, v.y - scalar, v.z - scalar, v.w - scalar};
 }
-constexpr vector4 operator-(double scalar, const vector4& v)
+QORIN_API constexpr vector4 operator-(double scalar, const vector4& v)
 {
     return {scalar - v.x, scalar - v.y, scalar - v.z, scalar - v.w};
 }
 
-/** Writes "Vector4(x, y, z, w)". */
+/// Writes "Vector4(x, y, z, w)".
 QORIN_API std::ostream& operator<<(std::ostream& out, const vector4& v);
 } // namespace savrent::cc::math
 

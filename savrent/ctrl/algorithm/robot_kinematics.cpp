@@ -13,6 +13,7 @@
 #include <boost/filesystem/directory.hpp>
 #include <boost/system/system_error.hpp>
 
+#include "protocol/limits.h"
 #include "qorin/result.h"
 #include "savrent/cc/debug_print.h"
 #include "savrent/cc/enum_name.h"
@@ -24,8 +25,8 @@ namespace savrent::ctrl::algorithm
 namespace
 {
 using cc::math::vector3;
+using protocol::joint_limit;
 
-constexpr std::size_t joint_limit = 6;
 constexpr std::size_t solution_count = 8;
 constexpr std::size_t model_limit = 1024; // of one module; there are some twenty models
 

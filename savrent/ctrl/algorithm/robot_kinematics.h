@@ -13,7 +13,7 @@ namespace savrent::ctrl::algorithm
 /**
  * The kinematics of one robot: an instance of the kinematics module that serves the robot's model.
  *
- * Modules are shared objects with the interface of kinematics/savrent_kinematics.h, all in one directory. Joint angles
+ * Modules are shared objects with the interface of qorin/savrent_kinematics.h, all in one directory. Joint angles
  * and orientations are in degrees. Arrays of joints have as many doubles as the module has joints, at most six.
  *
  * Owned by the robot's record. Made under the call lock; afterwards any thread calls without a lock, so the module has

@@ -1,5 +1,5 @@
-#ifndef RPC_QORIN_API_RPC_EVENT_H
-#define RPC_QORIN_API_RPC_EVENT_H
+#ifndef RPC_QORIN_RPC_EVENT_H
+#define RPC_QORIN_RPC_EVENT_H
 
 #include <list>
 #include <map>

@@ -6,19 +6,20 @@
 #include <cstdint>
 
 #include "api/api_call_robot_internal_data.h"
-#include "api/robot_read.h"
+#include "api/frame_read.h"
 #include "savrent/cc/math/custum_util.h"
 
 namespace
 {
+using protocol::joint_limit;
 using protocol::robot_data_t;
 using qorin_api::hand_out;
+using qorin_api::kinematics_use;
 using qorin_api::read_robot;
 using savrent::cc::math::vector3;
 using savrent::cc::math_savrent::custum_util;
 using savrent::ctrl::algorithm::robot_kinematics;
 
-constexpr std::uint32_t joint_limit = 6;
 constexpr unsigned int steps_after_failure = 10; // of the walk to a target that is not found at once
 
 using joint_buffer = std::array<double, joint_limit>;
@@ -28,12 +29,6 @@ struct pose
     vector3 position;
     vector3 orientation;
 };
-
-/// The robot has to be judged before.
-robot_kinematics& kinematics_of(unsigned int robot_id)
-{
-    return *qorin_api::api_call_robot_internal_data::get_instance()->get(robot_id)->kinematics;
-}
 
 /**
  * Judges the robot. Its record stays null while no control box is connected: the pose of a flange does without one, and
@@ -50,7 +45,7 @@ QORIN_API_RESULT find_robot(unsigned int robot_id, QORIN_POSE_TYPE type, const r
 /// Joints of a robot that fit in a joint_buffer, whatever count the control box tells.
 std::uint32_t joint_count_of(const robot_data_t& robot)
 {
-    return std::min<std::uint32_t>(robot.number_of_joints, joint_limit);
+    return std::min(std::uint32_t{robot.number_of_joints}, joint_limit);
 }
 
 pose tcp_from_flange_of(const robot_data_t& robot)
@@ -139,8 +134,11 @@ QORIN_API_RESULT qorin_robot_util_joint_angle_to_pose_convert(unsigned int robot
     const QORIN_API_RESULT result = find_robot(robot_id, type, robot);
     if (result != QORIN_API_RESULT_OK)
         return result;
+    const kinematics_use kinematics(robot_id);
+    if (!kinematics)
+        return QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID;
     pose flange;
-    kinematics_of(robot_id).forward(joints, flange.position, flange.orientation);
+    kinematics->forward(joints, flange.position, flange.orientation);
     const pose asked = from_flange(flange, type, robot);
     std::copy_n(asked.position.ptr(), 3, position);
     std::copy_n(asked.orientation.ptr(), 3, orientation);
@@ -155,13 +153,15 @@ QORIN_API_RESULT qorin_robot_util_pose_to_joint_angle_convert(unsigned int robot
     const QORIN_API_RESULT result = find_robot(robot_id, type, robot);
     if (result != QORIN_API_RESULT_OK)
         return result;
+    const kinematics_use kinematics(robot_id);
+    if (!kinematics)
+        return QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID;
     const pose target = to_flange({vector3(position), vector3(orientation)}, type, robot);
-    robot_kinematics& kinematics = kinematics_of(robot_id);
-    if (kinematics.inverse(target.position, target.orientation, reference, joints))
+    if (kinematics->inverse(target.position, target.orientation, reference, joints))
         return QORIN_API_RESULT_OK;
     if (robot == nullptr) // nothing tells how many joints to walk with
         return QORIN_API_RESULT_ERROR_CBOX_ID_INVALID;
-    return walk(kinematics, joint_count_of(*robot), reference, target, steps_after_failure, joints);
+    return walk(*kinematics, joint_count_of(*robot), reference, target, steps_after_failure, joints);
 }
 
 QORIN_API_RESULT qorin_robot_util_pose_to_joint_angle_convert_iterative(unsigned int robot_id, QORIN_POSE_TYPE type,
@@ -172,8 +172,11 @@ QORIN_API_RESULT qorin_robot_util_pose_to_joint_angle_convert_iterative(unsigned
     return read_robot(robot_id,
                       [&](const robot_data_t& robot)
                       {
+                          const kinematics_use kinematics(robot_id);
+                          if (!kinematics)
+                              return QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID;
                           const pose target = to_flange({vector3(position), vector3(orientation)}, type, &robot);
-                          return walk(kinematics_of(robot_id), joint_count_of(robot), reference, target, steps, joints);
+                          return walk(*kinematics, joint_count_of(robot), reference, target, steps, joints);
                       });
 }
 
@@ -183,9 +186,13 @@ QORIN_API_RESULT qorin_robot_util_pose_to_joint_all_possible_angle_convert(unsig
                                                                            bool* valid)
 {
     const QORIN_API_RESULT result = qorin_internal_robot_common_check(robot_id, nullptr);
-    if (result == QORIN_API_RESULT_OK)
-        kinematics_of(robot_id).inverse_all_solutions(vector3(position), vector3(orientation), joints, valid);
-    return result;
+    if (result != QORIN_API_RESULT_OK)
+        return result;
+    const kinematics_use kinematics(robot_id);
+    if (!kinematics)
+        return QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID;
+    kinematics->inverse_all_solutions(vector3(position), vector3(orientation), joints, valid);
+    return QORIN_API_RESULT_OK;
 }
 
 QORIN_API_RESULT qorin_robot_util_pose_to_posture_joint_angle_convert(unsigned int robot_id,
@@ -194,10 +201,13 @@ QORIN_API_RESULT qorin_robot_util_pose_to_posture_joint_angle_convert(unsigned i
                                                                       double* joints, bool* success)
 {
     const QORIN_API_RESULT result = qorin_internal_robot_common_check(robot_id, nullptr);
-    if (result == QORIN_API_RESULT_OK)
-        *success =
-            kinematics_of(robot_id).inverse_from_posture(vector3(position), vector3(orientation), posture, joints);
-    return result;
+    if (result != QORIN_API_RESULT_OK)
+        return result;
+    const kinematics_use kinematics(robot_id);
+    if (!kinematics)
+        return QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID;
+    *success = kinematics->inverse_from_posture(vector3(position), vector3(orientation), posture, joints);
+    return QORIN_API_RESULT_OK;
 }
 
 QORIN_API_RESULT qorin_robot_util_position_trajectory_get(unsigned int robot_id, unsigned int joint_count,
@@ -210,13 +220,15 @@ QORIN_API_RESULT qorin_robot_util_position_trajectory_get(unsigned int robot_id,
                       {
                           if (joint_count != robot.number_of_joints)
                               return QORIN_API_RESULT_ERROR_ROBOT_NUMBER_OF_JOINT_NOT_MATCHED;
-                          robot_kinematics& kinematics = kinematics_of(robot_id);
+                          const kinematics_use kinematics(robot_id);
+                          if (!kinematics)
+                              return QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID;
                           const joint_move move = {std::min(joint_count, joint_limit), start_joints, end_joints};
                           for (unsigned int i = 0; i < point_count; ++i)
                           {
                               pose flange;
                               const joint_buffer joints = move.at(i / static_cast<double>(point_count - 1));
-                              kinematics.forward(joints.data(), flange.position, flange.orientation);
+                              kinematics->forward(joints.data(), flange.position, flange.orientation);
                               const vector3 position = from_flange(flange, type, &robot).position;
                               x[i] = position.x;
                               y[i] = position.y;
