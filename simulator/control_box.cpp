@@ -52,11 +52,7 @@ bool control_box::exit_requested() const
 control_box_counters control_box::counters() const
 {
     const auto lock = guard();
-    if (!box_)
-        return {};
-    const auto& counters = box_->counters();
-    return {counters.clients_connected, counters.clients_accepted, counters.commands_served, counters.frames_sent,
-            counters.frames_skipped,    counters.chaser_taken,     counters.chaser_ignored};
+    return box_ ? snapshot(box_->counters()) : control_box_counters{};
 }
 
 void control_box::with_model(const std::function<void(box_model&)>& use)
@@ -67,10 +63,18 @@ void control_box::with_model(const std::function<void(box_model&)>& use)
     box_->with_model(use);
 }
 
+void control_box::set_faults(const fault_plan& faults)
+{
+    const auto lock = guard();
+    if (!box_)
+        throw std::logic_error("the control box was never started");
+    box_->set_faults(faults);
+}
+
 void control_box::push_event(const savrent::cc::val_obj::event_info& event)
 {
     const auto lock = guard();
     if (box_)
-        box_->with_model([&](box_model& model) { model.events().post(event); });
+        box_->with_model([&](box_model& model) { model.events().echo(event); });
 }
 } // namespace cbox_simulator

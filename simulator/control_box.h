@@ -5,38 +5,14 @@
 #include <functional>
 #include <memory>
 #include <mutex>
-#include <string>
 
 #include "protocol/event_record.h"
-#include "protocol/rpc_record.h"
-#include "simulator/log.h"
+#include "simulator/control_box_options.h"
+#include "simulator/counters.h"
 #include "simulator/model/box_model.h"
 
 namespace cbox_simulator
 {
-struct control_box_options
-{
-    std::string address = "127.0.0.1"; ///< IPv4 address to listen on
-    std::uint16_t port = protocol::control_box_port;
-    double rate = 1000;                                   ///< frames a second, above 0 and up to 10000
-    std::string version_text = "QORIN.v3.008.000.004_U2"; ///< at most 31 characters
-    log_sink log = {};                                    ///< none: the box is silent
-    log_level level = log_level::info;
-    std::function<void()> on_exit = {}; ///< see control_box
-};
-
-/// The counts of a box at one moment.
-struct control_box_counters
-{
-    std::uint64_t clients_connected; ///< complete clients at this moment
-    std::uint64_t clients_accepted;  ///< clients that became complete, ever
-    std::uint64_t commands_served;   ///< replies made, unknown commands included
-    std::uint64_t frames_sent;       ///< whole frames, over all clients
-    std::uint64_t frames_skipped;    ///< frames that a slow reader was not given
-    std::uint64_t chaser_taken;      ///< datagrams of joint streams that a robot follows
-    std::uint64_t chaser_ignored;    ///< datagrams at the streams' ports that told no robot anything
-};
-
 class running_box;
 
 /**
@@ -76,6 +52,11 @@ public:
     /// throws comes out here. Throws std::logic_error when the box was never started. The events of what `use` changed
     /// are on their way to the clients then.
     void with_model(const std::function<void(box_model&)>& use);
+
+    /// Puts other faults in force, on the box's thread: they meet what is sent, and the links that are made, from then
+    /// on. Throws std::invalid_argument for a command that the box does not know, and std::logic_error when the box was
+    /// never started. The version text stays as it is.
+    void set_faults(const fault_plan& faults);
 
     /// Sends an event to every complete client, behind those that the model has given so far.
     void push_event(const savrent::cc::val_obj::event_info& event);

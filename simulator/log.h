@@ -35,9 +35,7 @@ public:
     void write(log_level level, fmt::format_string<Args...> format, Args&&... args) const
     {
         if (wants(level))
-        {
             sink_(level, fmt::format(format, std::forward<Args>(args)...));
-        }
     }
 
 private:

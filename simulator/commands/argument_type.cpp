@@ -6,8 +6,8 @@
 
 #include <fmt/format.h>
 
-#include "simulator/commands/command_table.h"
 #include "simulator/commands/request_reader.h"
+#include "simulator/printable.h"
 
 namespace cbox_simulator
 {

@@ -1,4 +1,4 @@
-#include "simulator/commands/cbox_commands.h"
+#include "simulator/commands/families.h"
 
 #include "simulator/commands/part_operation.h"
 #include "simulator/commands/typed_command.h"

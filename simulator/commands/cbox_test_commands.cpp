@@ -1,4 +1,4 @@
-#include "simulator/commands/cbox_test_commands.h"
+#include "simulator/commands/families.h"
 
 #include <cstring>
 
@@ -20,7 +20,7 @@ QORIN_API_RESULT event_echo(box_model& model, std::uint32_t group, std::uint32_t
     event.sender_id = sender;
     const std::int32_t parameters[] = {parameter_0, parameter_1, parameter_2, parameter_3, parameter_4};
     std::memcpy(event.parameter, parameters, sizeof parameters);
-    model.events().post(event);
+    model.events().echo(event);
     return QORIN_API_RESULT_OK;
 }
 

@@ -1,36 +1,18 @@
 #include "simulator/commands/command_table.h"
 
-#include <iterator>
 #include <stdexcept>
 
 #include <fmt/format.h>
 
-#include "simulator/commands/cbox_commands.h"
-#include "simulator/commands/cbox_test_commands.h"
-#include "simulator/commands/external_motion_commands.h"
-#include "simulator/commands/fieldbus_commands.h"
-#include "simulator/commands/force_control_commands.h"
-#include "simulator/commands/memory_commands.h"
-#include "simulator/commands/motion_commands.h"
-#include "simulator/commands/recording_commands.h"
-#include "simulator/commands/robot_commands.h"
-#include "simulator/commands/robot_control_commands.h"
-#include "simulator/commands/robot_setup_commands.h"
-#include "simulator/commands/robot_test_commands.h"
-#include "simulator/commands/safety_limit_commands.h"
-#include "simulator/commands/system_commands.h"
-#include "simulator/commands/tool_io_commands.h"
-#include "simulator/commands/welding_commands.h"
+#include "simulator/commands/families.h"
 
 namespace cbox_simulator
 {
 void command_table::add(std::span<const command_row> rows)
 {
     for (const auto& row : rows)
-    {
         if (!rows_.emplace(row.wire_name, row).second)
             throw std::logic_error(fmt::format("command {} stands twice in the table", row.wire_name));
-    }
 }
 
 const command_row* command_table::find(std::string_view wire_name) const
@@ -53,6 +35,7 @@ command_table make_command_table()
     table.add(system_commands());
     table.add(robot_commands());
     table.add(robot_control_commands());
+    table.add(jog_commands());
     table.add(robot_setup_commands());
     table.add(safety_limit_commands());
     table.add(force_control_commands());
@@ -67,19 +50,5 @@ command_table make_command_table()
     table.add(cbox_test_commands());
     table.add(robot_test_commands());
     return table;
-}
-
-std::string printable(std::string_view text)
-{
-    std::string line = "\"";
-    for (const char character : text)
-    {
-        const auto byte = static_cast<unsigned char>(character);
-        if (byte < 0x20 || byte > 0x7E || character == '"' || character == '\\')
-            fmt::format_to(std::back_inserter(line), "\\x{:02X}", byte);
-        else
-            line += character;
-    }
-    return line + '"';
 }
 } // namespace cbox_simulator

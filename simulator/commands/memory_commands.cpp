@@ -1,4 +1,4 @@
-#include "simulator/commands/memory_commands.h"
+#include "simulator/commands/families.h"
 
 #include <algorithm>
 #include <chrono>
@@ -49,10 +49,10 @@ QORIN_API_RESULT sleep(box_model& model, std::uint32_t milliseconds)
 
 constexpr command_row rows[] = {
     controlled<set>("qorin_set_user_memory"),
-    open_to_all<get>("qorin_get_user_memory"),
+    controlled<get>("qorin_get_user_memory"),
     controlled<on_part<&user_memory::remove>>("qorin_delete_user_memory"),
     controlled<on_part<&user_memory::clear>>("qorin_clear_user_memory"),
-    open_to_all<sleep>("qorin_rt_sleep"),
+    controlled<sleep>("qorin_rt_sleep"),
 };
 } // namespace
 

@@ -1,4 +1,4 @@
-#include "simulator/commands/motion_commands.h"
+#include "simulator/commands/families.h"
 
 #include <algorithm>
 #include <bit>
@@ -45,14 +45,14 @@ QORIN_API_RESULT destroy_all(box_model& model)
 
 QORIN_API_RESULT queue_add(box_model& model, std::uint32_t id)
 {
-    const auto* command = model.motion_commands().find(id);
+    auto* command = model.motion_commands().find(id);
     return command ? model.motions().add(id, *command) : QORIN_API_RESULT_ERROR_COULD_NOT_FIND_COMMAND_ID;
 }
 
 /// Of TCP motions only; to the simulated box it is the same queue.
 QORIN_API_RESULT internal_add(box_model& model, std::uint32_t id)
 {
-    const auto* command = model.motion_commands().find(id);
+    auto* command = model.motion_commands().find(id);
     return command && command->find<tcp_path>() ? model.motions().add(id, *command)
                                                 : QORIN_API_RESULT_ERROR_COULD_NOT_FIND_COMMAND_ID;
 }
@@ -102,14 +102,14 @@ QORIN_API_RESULT name_get(motion_command& command, std::uint32_t& start_of_name)
     return QORIN_API_RESULT_OK;
 }
 
-/// Of TCP motions only. Nothing slows the simulated one down.
+/// Of TCP motions only: what the joints can keep up with, once the command has been judged or queued.
 QORIN_API_RESULT adjusted_speed_get(motion_command& command, double& speed)
 {
     if (!command.find<tcp_path>())
         return QORIN_API_RESULT_ERROR_COULD_NOT_FIND_COMMAND_ID;
     if (!command.robot_id)
         return QORIN_API_RESULT_ERROR_ROBOT_ID_MUST_BE_SET_FIRST;
-    speed = command.speed_max;
+    speed = command.adjusted_speed.value_or(command.speed_max);
     return QORIN_API_RESULT_OK;
 }
 
@@ -121,7 +121,7 @@ QORIN_API_RESULT weaving_event_set(box_model& model, motion_command& command, QO
     auto* robot = model.robots().find(*command.robot_id);
     if (!robot)
         return QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID;
-    const auto result = judge_motion_value(value);
+    const auto result = motion_value::judge(value);
     if (result == QORIN_API_RESULT_OK)
         robot->settings().switches.weaving_event = value;
     return result;
@@ -184,7 +184,7 @@ QORIN_API_RESULT free_path_points_set(tcp_path& path, std::uint32_t count, const
     std::vector<vector3> points;
     for (std::size_t point = 0; point < count; ++point)
     {
-        if (const auto result = judge_motion_values({x[point], y[point], z[point]}); result != QORIN_API_RESULT_OK)
+        if (const auto result = motion_value::judge({x[point], y[point], z[point]}); result != QORIN_API_RESULT_OK)
             return result;
         points.push_back({x[point], y[point], z[point]});
     }
@@ -192,41 +192,53 @@ QORIN_API_RESULT free_path_points_set(tcp_path& path, std::uint32_t count, const
     return QORIN_API_RESULT_OK;
 }
 
-/// A command for a motion in one request. The first double of such a request is not used: only the end counts where
-/// motions take no time.
-motion_command single_motion(motion_kind kind, QORIN_SWITCH blending, std::uint32_t robot_id)
+/// In which distance of its end a motion in one request blends into the next: degrees, or millimetres.
+constexpr double joint_blend_radius = 5;
+constexpr double tcp_blend_radius = 10;
+
+/// A command for a motion in one request. It comes to its speed within half a second, and no more gently than one that
+/// is told no acceleration.
+motion_command single_motion(motion_kind kind, QORIN_SWITCH blending, std::uint32_t robot_id, double speed)
 {
+    constexpr double accelerations_of_speed = 2;
     motion_command command(kind);
     command.robot_id = robot_id;
+    command.speed_max = speed;
+    command.acc_max = std::max(command.acc_max, speed * accelerations_of_speed);
+    command.dec_max = command.acc_max;
     command.blending_motion_mode = blending;
+    command.radius_for_blending = kind == motion_kind::joint ? joint_blend_radius : tcp_blend_radius;
     return command;
 }
 
 template <QORIN_SWITCH blending>
-QORIN_API_RESULT just_joint_move(box_model& model, std::uint32_t robot_id, double unused, std::uint32_t count,
+QORIN_API_RESULT just_joint_move(box_model& model, std::uint32_t robot_id, double speed, std::uint32_t count,
                                  const block_of<double>& angles)
 {
-    if (!model.robots().exists(robot_id))
+    const auto* robot = model.robots().find(robot_id);
+    if (!robot)
         return QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID;
-    if (count != joint_count)
+    if (count != robot->joint_count())
         return QORIN_API_RESULT_ERROR_ROBOT_NUMBER_OF_JOINT_NOT_MATCHED;
-    if (const auto result = judge_motion_value(unused); result != QORIN_API_RESULT_OK)
+    if (const auto result = motion_value::judge<positive>(speed); result != QORIN_API_RESULT_OK)
         return result;
-    motion_command command = single_motion(motion_kind::joint, blending, robot_id);
-    std::copy_n(angles.begin(), joint_count, command.find<joint_path>()->angle_end.begin());
+    motion_command command = single_motion(motion_kind::joint, blending, robot_id, speed);
+    std::copy_n(angles.begin(), count, command.find<joint_path>()->angle_end.begin());
     return model.motions().run_now(command);
 }
 
-/// The last six doubles are taken for the position and the orientation of the TCP at the end, seen from the base.
+/// The speed, then the position and the orientation of the TCP at the end, seen from the base.
 template <QORIN_SWITCH blending>
-QORIN_API_RESULT just_tcp_move(box_model& model, std::uint32_t robot_id, double unused, double x, double y, double z,
+QORIN_API_RESULT just_tcp_move(box_model& model, std::uint32_t robot_id, double speed, double x, double y, double z,
                                double rx, double ry, double rz)
 {
     if (!model.robots().exists(robot_id))
         return QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID;
-    if (const auto result = judge_motion_values({unused, x, y, z, rx, ry, rz}); result != QORIN_API_RESULT_OK)
+    if (const auto result = motion_value::judge({x, y, z, rx, ry, rz}); result != QORIN_API_RESULT_OK)
         return result;
-    motion_command command = single_motion(motion_kind::tcp, blending, robot_id);
+    if (const auto result = motion_value::judge<positive>(speed); result != QORIN_API_RESULT_OK)
+        return result;
+    motion_command command = single_motion(motion_kind::tcp, blending, robot_id, speed);
     auto& path = *command.find<tcp_path>();
     path.position_end = {x, y, z};
     path.orientation_end = {rx, ry, rz};
@@ -246,75 +258,75 @@ constexpr command_row rows[] = {
     controlled<internal_add>("qorin_motion_command_robot_tcp_internal_add"),
     controlled<queue_clear>("qorin_motion_command_queue_clear"),
     controlled<queue_flush>("qorin_motion_command_queue_flush"),
-    open_to_all<is_runnable>("qorin_motion_command_is_runnable"),
+    controlled<is_runnable>("qorin_motion_command_is_runnable"),
     controlled<robot_id_set>("qorin_motion_command_robot_robot_id_set"),
-    open_to_all<robot_id_get>("qorin_motion_command_robot_robot_id_get"),
+    controlled<robot_id_get>("qorin_motion_command_robot_robot_id_get"),
     controlled<name_set>("qorin_motion_command_name_set"),
-    open_to_all<name_get>("qorin_motion_command_name_get"),
+    controlled<name_get>("qorin_motion_command_name_get"),
     controlled<weaving_event_set>("qorin_motion_command_robot_weaving_event_set"),
     controlled<start_condition_set>("qorin_motion_command_start_condition_set"),
     controlled<io_command_set>("qorin_motion_command_io_command_type_set"),
-    open_to_all<get<&command::running_time>>("qorin_motion_command_running_time_get"),
+    controlled<get<&command::running_time>>("qorin_motion_command_running_time_get"),
 
     controlled<set<&command::velocity_profiler>>("qorin_motion_command_velocity_profiler_set"),
-    open_to_all<get<&command::velocity_profiler>>("qorin_motion_command_velocity_profiler_get"),
+    controlled<get<&command::velocity_profiler>>("qorin_motion_command_velocity_profiler_get"),
     controlled<set<&command::acc_max, positive>>("qorin_motion_command_acc_max_set"),
-    open_to_all<get<&command::acc_max>>("qorin_motion_command_acc_max_get"),
+    controlled<get<&command::acc_max>>("qorin_motion_command_acc_max_get"),
     controlled<set<&command::dec_max, positive>>("qorin_motion_command_dec_max_set"),
-    open_to_all<get<&command::dec_max>>("qorin_motion_command_dec_max_get"),
+    controlled<get<&command::dec_max>>("qorin_motion_command_dec_max_get"),
     controlled<set<&command::speed_max, positive>>("qorin_motion_command_speed_max_set"),
-    open_to_all<get<&command::speed_max>>("qorin_motion_command_speed_max_get"),
+    controlled<get<&command::speed_max>>("qorin_motion_command_speed_max_get"),
     controlled<set<&command::jerk_percentage, percentage>>("qorin_motion_command_jerk_percentage_set"),
-    open_to_all<get<&command::jerk_percentage>>("qorin_motion_command_jerk_percentage_get"),
+    controlled<get<&command::jerk_percentage>>("qorin_motion_command_jerk_percentage_get"),
 
     controlled<set<&command::blending_motion_mode>>("qorin_motion_command_blending_motion_mode_set"),
-    open_to_all<get<&command::blending_motion_mode>>("qorin_motion_command_blending_motion_mode_get"),
+    controlled<get<&command::blending_motion_mode>>("qorin_motion_command_blending_motion_mode_get"),
     controlled<set<&command::blending_auto_start>>("qorin_motion_command_blending_auto_start_set"),
-    open_to_all<get<&command::blending_auto_start>>("qorin_motion_command_blending_auto_start_get"),
+    controlled<get<&command::blending_auto_start>>("qorin_motion_command_blending_auto_start_get"),
     controlled<set<&command::blending_stop_mode>>("qorin_motion_command_blending_stop_mode_set"),
-    open_to_all<get<&command::blending_stop_mode>>("qorin_motion_command_blending_stop_mode_get"),
+    controlled<get<&command::blending_stop_mode>>("qorin_motion_command_blending_stop_mode_get"),
     controlled<set<&command::radius_for_blending, not_negative>>("qorin_motion_command_radius_for_blending_set"),
-    open_to_all<get<&command::radius_for_blending>>("qorin_motion_command_radius_for_blending_get"),
+    controlled<get<&command::radius_for_blending>>("qorin_motion_command_radius_for_blending_get"),
 
     controlled<angle_set<&joint_path::angle_start>>("qorin_motion_command_robot_joint_angle_start_set"),
-    open_to_all<angle_get<&joint_path::angle_start>>("qorin_motion_command_robot_joint_angle_start_get"),
+    controlled<angle_get<&joint_path::angle_start>>("qorin_motion_command_robot_joint_angle_start_get"),
     controlled<angle_set<&joint_path::angle_end>>("qorin_motion_command_robot_joint_angle_end_set"),
-    open_to_all<angle_get<&joint_path::angle_end>>("qorin_motion_command_robot_joint_angle_end_get"),
+    controlled<angle_get<&joint_path::angle_end>>("qorin_motion_command_robot_joint_angle_end_get"),
 
     controlled<set_vector<&tcp_path::position_start>>("qorin_motion_command_robot_tcp_position_start_set"),
-    open_to_all<get_vector<&tcp_path::position_start>>("qorin_motion_command_robot_tcp_position_start_get"),
+    controlled<get_vector<&tcp_path::position_start>>("qorin_motion_command_robot_tcp_position_start_get"),
     controlled<set_vector<&tcp_path::position_mid>>("qorin_motion_command_robot_tcp_position_mid_set"),
-    open_to_all<get_vector<&tcp_path::position_mid>>("qorin_motion_command_robot_tcp_position_mid_get"),
+    controlled<get_vector<&tcp_path::position_mid>>("qorin_motion_command_robot_tcp_position_mid_get"),
     controlled<end_set<&tcp_path::position_end, &tcp_path::direction>>(
         "qorin_motion_command_robot_tcp_position_end_set"),
-    open_to_all<get_vector<&tcp_path::position_end>>("qorin_motion_command_robot_tcp_position_end_get"),
+    controlled<get_vector<&tcp_path::position_end>>("qorin_motion_command_robot_tcp_position_end_get"),
     // Three numbers tell the way and no turn: the orientation ends as it starts, or as it is set, in either form.
     controlled<end_set<&tcp_path::direction, &tcp_path::position_end>>(
         "qorin_motion_command_robot_tcp_position_end_set_from_direction"),
     controlled<end_set<&tcp_path::direction, &tcp_path::position_end>>(
         "qorin_motion_command_robot_tcp_position_and_orientation_end_set_from_direction"),
     controlled<set_vector<&tcp_path::orientation_start>>("qorin_motion_command_robot_tcp_orientation_start_set"),
-    open_to_all<get_vector<&tcp_path::orientation_start>>("qorin_motion_command_robot_tcp_orientation_start_get"),
+    controlled<get_vector<&tcp_path::orientation_start>>("qorin_motion_command_robot_tcp_orientation_start_get"),
     controlled<set_vector<&tcp_path::orientation_end>>("qorin_motion_command_robot_tcp_orientation_end_set"),
-    open_to_all<get_vector<&tcp_path::orientation_end>>("qorin_motion_command_robot_tcp_orientation_end_get"),
+    controlled<get_vector<&tcp_path::orientation_end>>("qorin_motion_command_robot_tcp_orientation_end_get"),
     controlled<free_path_points_set>("qorin_motion_command_robot_tcp_free_path_points_set"),
 
     controlled<set<&tcp_path::speed_start, not_negative>>("qorin_motion_command_robot_tcp_speed_start_set"),
-    open_to_all<get<&tcp_path::speed_start>>("qorin_motion_command_robot_tcp_speed_start_get"),
+    controlled<get<&tcp_path::speed_start>>("qorin_motion_command_robot_tcp_speed_start_get"),
     controlled<set<&tcp_path::speed_end, not_negative>>("qorin_motion_command_robot_tcp_speed_end_set"),
-    open_to_all<get<&tcp_path::speed_end>>("qorin_motion_command_robot_tcp_speed_end_get"),
+    controlled<get<&tcp_path::speed_end>>("qorin_motion_command_robot_tcp_speed_end_get"),
     controlled<set<&tcp_path::radius, not_negative>>("qorin_motion_command_robot_tcp_radius_set"),
-    open_to_all<get<&tcp_path::radius>>("qorin_motion_command_robot_tcp_radius_get"),
-    open_to_all<adjusted_speed_get>("qorin_motion_command_robot_tcp_adjusted_speed_get"),
+    controlled<get<&tcp_path::radius>>("qorin_motion_command_robot_tcp_radius_get"),
+    controlled<adjusted_speed_get>("qorin_motion_command_robot_tcp_adjusted_speed_get"),
     controlled<set<&tcp_path::coordinate>>("qorin_motion_command_robot_tcp_coordinate_set"),
-    open_to_all<get<&tcp_path::coordinate>>("qorin_motion_command_robot_tcp_coordinate_get"),
+    controlled<get<&tcp_path::coordinate>>("qorin_motion_command_robot_tcp_coordinate_get"),
     controlled<set<&tcp_path::pose_type>>("qorin_motion_command_robot_tcp_pose_type_set"),
     controlled<set<&tcp_path::offset_mode>>("qorin_motion_command_robot_tcp_offset_mode_set"),
-    open_to_all<get<&tcp_path::offset_mode>>("qorin_motion_command_robot_tcp_offset_mode_get"),
+    controlled<get<&tcp_path::offset_mode>>("qorin_motion_command_robot_tcp_offset_mode_get"),
     controlled<set<&tcp_path::interpolator>>("qorin_motion_command_robot_tcp_interpolator_set"),
-    open_to_all<get<&tcp_path::interpolator>>("qorin_motion_command_robot_tcp_interpolator_get"),
+    controlled<get<&tcp_path::interpolator>>("qorin_motion_command_robot_tcp_interpolator_get"),
     controlled<set<&tcp_path::orientation_mode>>("qorin_motion_command_robot_orientation_mode_set"),
-    open_to_all<get<&tcp_path::orientation_mode>>("qorin_motion_command_robot_orientation_mode_get"),
+    controlled<get<&tcp_path::orientation_mode>>("qorin_motion_command_robot_orientation_mode_get"),
 
     controlled<just_joint_move<QORIN_SWITCH_OFF>>("qorin_just_robot_joint_move"),
     controlled<just_joint_move<QORIN_SWITCH_ON>>("qorin_just_robot_blending_joint_move"),

@@ -2,10 +2,12 @@
 #define SIMULATOR_COMMANDS_MOTION_VALUE_H
 
 #include <array>
+#include <initializer_list>
 #include <optional>
+#include <type_traits>
 
 #include "simulator/commands/motion_argument.h"
-#include "simulator/model/motion_ranges.h"
+#include "simulator/model/possible_values.h"
 
 /// Handlers that set and get one member of a motion command or of a part of one. What a set refuses stays as it is; a
 /// point that is not told is answered as zeros.
@@ -24,10 +26,30 @@ using owner_of = typename member_of<decltype(member)>::owner;
 template <auto member>
 using value_of = typename member_of<decltype(member)>::value;
 
+template <number_range range = number_range::finite, class Value>
+[[nodiscard]] QORIN_API_RESULT judge(Value value)
+{
+    bool possible = false;
+    if constexpr (std::is_same_v<Value, double>)
+        possible = is_possible(value, range);
+    else
+        possible = is_possible(value);
+    if (possible)
+        return QORIN_API_RESULT_OK;
+    return std::is_same_v<Value, QORIN_VELOCITY_PROFILE> ? QORIN_API_RESULT_ERROR_COULD_NOT_FIND_PROFILER_TYPE
+                                                         : QORIN_API_RESULT_ERROR_MOTION_COMMAND_OUT_OF_RANGE;
+}
+
+/// Several numbers at once.
+[[nodiscard]] inline QORIN_API_RESULT judge(std::initializer_list<double> values)
+{
+    return are_possible(values) ? QORIN_API_RESULT_OK : QORIN_API_RESULT_ERROR_MOTION_COMMAND_OUT_OF_RANGE;
+}
+
 template <auto member, number_range range = number_range::finite>
 QORIN_API_RESULT set(owner_of<member>& owner, value_of<member> value)
 {
-    const auto result = judge_motion_value<range>(value);
+    const auto result = judge<range>(value);
     if (result == QORIN_API_RESULT_OK)
         owner.*member = value;
     return result;
@@ -43,7 +65,7 @@ QORIN_API_RESULT get(owner_of<member>& owner, value_of<member>& value)
 template <auto member>
 QORIN_API_RESULT set_vector(owner_of<member>& owner, double x, double y, double z)
 {
-    const auto result = judge_motion_values({x, y, z});
+    const auto result = judge({x, y, z});
     if (result == QORIN_API_RESULT_OK)
         owner.*member = vector3{x, y, z};
     return result;

@@ -1,11 +1,19 @@
-#include "simulator/commands/recording_commands.h"
+#include "simulator/commands/families.h"
 
 #include <algorithm>
 #include <cmath>
+#include <memory>
+#include <optional>
 #include <string_view>
+#include <utility>
 
+#include <Eigen/Geometry>
+
+#include "kinematics/angles.h"
+#include "kinematics/rotation.h"
 #include "simulator/commands/typed_command.h"
-#include "simulator/model/motion_plan.h"
+#include "simulator/model/moving_state.h"
+#include "simulator/model/stream_sources.h"
 
 namespace cbox_simulator
 {
@@ -105,18 +113,75 @@ QORIN_API_RESULT trim(robot_state& robot, std::uint32_t id)
     return QORIN_API_RESULT_OK;
 }
 
-/// A recording has no times here, so that there is nothing to sample anew: the buffer stays as it is, and the output is
-/// its number of entries. The double is taken for a speed factor.
-QORIN_API_RESULT interpolate(robot_state& robot, std::uint32_t id, QORIN_RECORDING_INTERPOLATION space, std::uint32_t,
-                             double speed_factor, std::uint32_t& entries)
+/// At a share of the straight way and of the shortest turn.
+pose pose_between(const pose& from, const pose& to, double share)
+{
+    const auto turn = turn_from_to(from, to);
+    const Eigen::Vector3d axis = Eigen::Vector3d::Map(turn.data());
+    const double angle = savrent::kinematics::radians(axis.norm() * share);
+    const auto orientation = savrent::kinematics::orientation_of(
+        Eigen::AngleAxisd(angle, angle > 0 ? Eigen::Vector3d(axis.normalized()) : Eigen::Vector3d::UnitX()) *
+        savrent::kinematics::rotation_of({from[3], from[4], from[5]}));
+    return {std::lerp(from[0], to[0], share),
+            std::lerp(from[1], to[1], share),
+            std::lerp(from[2], to[2], share),
+            orientation[0],
+            orientation[1],
+            orientation[2]};
+}
+
+/// Between two entries: the joints straight, or the TCP straight and with a steady turn. Nothing where the arm cannot
+/// follow.
+std::optional<joint_array> between(const robot_state& robot, QORIN_RECORDING_INTERPOLATION space,
+                                   const joint_array& from, const joint_array& to, double share)
+{
+    joint_array joints{};
+    for (std::size_t joint = 0; joint < joints.size(); ++joint)
+        joints[joint] = std::lerp(from[joint], to[joint], share);
+    if (space == QORIN_RECORDING_INTERPOLATION_JOINT || share == 0)
+        return joints;
+    const auto tcp_at = [&](const joint_array& angles)
+    { return placed(robot.flange_pose_at(angles), robot.tcp_from_flange()); };
+    return robot.joints_at(outer_of(pose_between(tcp_at(from), tcp_at(to), share), robot.tcp_from_flange()), joints);
+}
+
+bool is_too_fast(box_model& model, const robot_state& robot, const joint_array& from, const joint_array& to)
+{
+    for (std::size_t joint = 0; joint < from.size(); ++joint)
+        if (std::abs(to[joint] - from[joint]) > robot.range_of(joint).speed_max * model.control_cycle_us() * 1e-6)
+            return true;
+    return false;
+}
+
+/// The buffer is made anew so that it plays that many times as fast; the output is the number of its entries, which are
+/// a control cycle apart as before. The last entry stays the last one.
+QORIN_API_RESULT interpolate(box_model& model, robot_state& robot, std::uint32_t id,
+                             QORIN_RECORDING_INTERPOLATION space, std::uint32_t, double speed_factor,
+                             std::uint32_t& entries)
 {
     const auto [buffer, result] = find_filled(robot, id);
     if (result != QORIN_API_RESULT_OK)
         return result;
-    if (space != QORIN_RECORDING_INTERPOLATION_TCP && space != QORIN_RECORDING_INTERPOLATION_JOINT)
+    if (!is_possible(space))
         return QORIN_API_RESULT_ERROR_ROBOT_PARAM_OUT_OF_RANGE;
-    if (!(speed_factor > 0) || !std::isfinite(speed_factor))
+    const double steps = std::ceil(static_cast<double>(buffer->size() - 1) / speed_factor);
+    if (!is_possible(speed_factor, number_range::positive) || !(steps < recordings::length_limit))
         return QORIN_API_RESULT_ERROR_ROBOT_RECORDING_SPEED_FACTOR_OUT_OF_RANGE;
+    recording resampled{buffer->front()};
+    for (double step = 1; step <= steps; ++step)
+    {
+        const double place = std::min(step * speed_factor, static_cast<double>(buffer->size() - 1));
+        const auto before = static_cast<std::size_t>(place);
+        const auto behind = std::min(before + 1, buffer->size() - 1);
+        const auto joints =
+            between(robot, space, (*buffer)[before], (*buffer)[behind], place - static_cast<double>(before));
+        if (!joints)
+            return QORIN_API_RESULT_ERROR_ROBOT_RECORDING_INVERSE_FAILURE;
+        if (speed_factor > 1 && is_too_fast(model, robot, resampled.back(), *joints))
+            return QORIN_API_RESULT_ERROR_ROBOT_RECORDING_INTERPOLATION_FAILURE;
+        resampled.push_back(*joints);
+    }
+    *buffer = std::move(resampled);
     entries = static_cast<std::uint32_t>(buffer->size());
     return QORIN_API_RESULT_OK;
 }
@@ -129,18 +194,24 @@ bool stands_at_start(const robot_state& robot, const recording& content)
                               [](double stands, double starts) { return std::abs(stands - starts) <= tolerance; });
 }
 
-/// Takes no time, as every simulated motion; the output is the number of entries that were played.
+/// The output is the number of entries that are played, one in each control cycle.
 QORIN_API_RESULT playback(box_model& model, robot_state& robot, std::uint32_t id, std::uint32_t& entries)
 {
     const auto [buffer, result] = find_filled(robot, id);
     if (result != QORIN_API_RESULT_OK)
         return result;
-    if (!is_ready_to_move(robot, model.cbox()))
+    for (const auto& angles : *buffer)
+    {
+        const auto refusal = refusal_of_motion(model.readiness().hindrance_to(robot, angles));
+        if (refusal != QORIN_API_RESULT_OK)
+            return refusal;
+    }
+    auto& motion = model.motion_of(robot);
+    if (!is_at_rest(robot.moving_state()) || !motion.is_free())
         return QORIN_API_RESULT_ERROR_MOTION_UNINSERTABLE_STATE;
     if (!stands_at_start(robot, *buffer))
         return QORIN_API_RESULT_ROBOT_TARGET_START_POSE_NOT_MATCHED;
-    for (const auto& angles : *buffer)
-        robot.set_joint_angles(angles);
+    motion.start(std::unique_ptr<motion_source>(std::make_unique<playback_source>(*buffer, robot.commanded().joints)));
     entries = static_cast<std::uint32_t>(buffer->size());
     return QORIN_API_RESULT_OK;
 }
@@ -198,10 +269,10 @@ constexpr command_row rows[] = {
     controlled<interpolate>("qorin_robot_recording_interpolate"),
     controlled<playback>("qorin_robot_recording_playback"),
     controlled<save>("qorin_robot_recording_file_save"),
-    open_to_all<angle_get<place::start>>("qorin_robot_recording_angle_start_get"),
-    open_to_all<angle_get<place::end>>("qorin_robot_recording_angle_end_get"),
-    open_to_all<angle_from_file_get<place::start>>("qorin_robot_recording_angle_start_from_file_get"),
-    open_to_all<angle_from_file_get<place::end>>("qorin_robot_recording_angle_end_from_file_get"),
+    controlled<angle_get<place::start>>("qorin_robot_recording_angle_start_get"),
+    controlled<angle_get<place::end>>("qorin_robot_recording_angle_end_get"),
+    controlled<angle_from_file_get<place::start>>("qorin_robot_recording_angle_start_from_file_get"),
+    controlled<angle_from_file_get<place::end>>("qorin_robot_recording_angle_end_from_file_get"),
 };
 } // namespace
 

@@ -37,15 +37,6 @@ public:
     }
 
     [[nodiscard]] std::uint32_t next_u32() { return record_.value[take(value_)]; }
-    [[nodiscard]] std::int32_t next_i32() { return static_cast<std::int32_t>(next_u32()); }
-
-    /// Any number can arrive here, also one that is no member.
-    template <class Enum>
-    [[nodiscard]] Enum next_enum()
-    {
-        static_assert(std::is_enum_v<Enum> && sizeof(Enum) == sizeof(std::uint32_t));
-        return static_cast<Enum>(next_u32());
-    }
 
     [[nodiscard]] double next_double() { return record_.real[take(real_)]; }
 

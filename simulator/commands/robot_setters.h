@@ -61,7 +61,7 @@ QORIN_API_RESULT keep_for_joint(robot_state& robot, std::uint32_t joint,
                                 typename setting_type<path...>::value_type value)
 {
     auto& values = setting_of<path...>(robot);
-    if (joint >= values.size())
+    if (joint >= robot.joint_count())
         return QORIN_API_RESULT_ERROR_ROBOT_JOINT_INDEX_OUT_OF_RANGE;
     if (!check(value))
         return QORIN_API_RESULT_ERROR_ROBOT_PARAM_OUT_OF_RANGE;

@@ -1,4 +1,4 @@
-#include "simulator/commands/robot_setup_commands.h"
+#include "simulator/commands/families.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -6,6 +6,8 @@
 
 #include "simulator/commands/robot_setters.h"
 #include "simulator/commands/typed_command.h"
+#include "simulator/commands/when_ready.h"
+#include "simulator/model/moving_state.h"
 #include "simulator/model/tool_calibration.h"
 
 namespace cbox_simulator
@@ -18,9 +20,16 @@ using thresholds = collision_thresholds;
 constexpr std::uint32_t least_tool_poses = 3;
 constexpr std::uint32_t most_tool_poses = 10;
 
-/// Nothing collides with a simulated robot, so that there is nothing to clear.
-QORIN_API_RESULT collision_detection_clear(robot_state&)
+/// The robot can be moved again, unless a violation stands beside the collision.
+QORIN_API_RESULT collision_detection_clear(box_model& model, robot_state& robot)
 {
+    if (robot.collision() == 0)
+        return QORIN_API_RESULT_OK;
+    if (!is_at_rest(robot.moving_state()))
+        return QORIN_API_RESULT_ERROR_ROBOT_COULD_NOT_RESET_STATE;
+    robot.set_collision(0);
+    if (robot.safety_violation() == 0)
+        model.motion_of(robot).reset();
     return QORIN_API_RESULT_OK;
 }
 
@@ -97,6 +106,9 @@ constexpr auto switches = &settings::switches;
 constexpr auto collision = &settings::collision;
 using dynamics = dynamics_calibration;
 
+constexpr auto calibration_failure = QORIN_API_RESULT_ROBOT_DYNAMICS_CALIBRATION_FAILURE;
+constexpr auto dry_run_failure = QORIN_API_RESULT_ROBOT_DYNAMICS_DRY_RUN_START_FAILURE;
+
 constexpr command_row rows[] = {
     controlled<collision_detection_clear>("qorin_robot_collision_detection_clear"),
     controlled<keep<magnitude, collision, &thresholds::tcp_resultant_force>>(
@@ -109,18 +121,20 @@ constexpr command_row rows[] = {
         "qorin_robot_collision_mitigation_switch_set"),
     controlled<keep_six<magnitude, collision, &thresholds::tcp_force>>(
         "qorin_robot_collision_detection_threshold_tcp_force_set"),
-    controlled<calibrate<&dynamics::calibrate>>("qorin_robot_dynamics_calibration_start"),
+    controlled<when_ready<calibrate<&dynamics::calibrate>, calibration_failure>>(
+        "qorin_robot_dynamics_calibration_start"),
     controlled<calibrate<&dynamics::save>>("qorin_robot_dynamics_calibration_save"),
     controlled<calibrate<&dynamics::end_dry_run>>("qorin_robot_dynamics_dry_run_end"),
-    controlled<calibrate_joint<&dynamics::calibrate_joint>>("qorin_robot_joint_dynamics_calibration_start"),
+    controlled<when_ready<calibrate_joint<&dynamics::calibrate_joint>, calibration_failure>>(
+        "qorin_robot_joint_dynamics_calibration_start"),
     controlled<calibrate_joint<&dynamics::save_joint>>("qorin_robot_joint_dynamics_calibration_save"),
     controlled<keep_for_joint<possible, &settings::friction_feedrate>>("qorin_robot_dynamics_friction_feedrate_set"),
-    open_to_all<dry_run_state_get>("qorin_robot_dynamics_dry_run_state_get"),
-    controlled<dry_run_start>("qorin_robot_dynamics_dry_run_start"),
-    controlled<tcp_from_flange_set>("qorin_robot_tcp_from_flange_set"),
-    controlled<tcp_from_positions_set>("qorin_robot_tcp_from_flange_multiple_position_set"),
-    controlled<tcp_from_orientation_set>("qorin_robot_tcp_from_flange_multiple_orientation_set"),
-    controlled<tcp_payload_set>("qorin_robot_tcp_payload_set"),
+    controlled<dry_run_state_get>("qorin_robot_dynamics_dry_run_state_get"),
+    controlled<when_ready<dry_run_start, dry_run_failure>>("qorin_robot_dynamics_dry_run_start"),
+    controlled<while_standing<tcp_from_flange_set>>("qorin_robot_tcp_from_flange_set"),
+    controlled<while_standing<tcp_from_positions_set>>("qorin_robot_tcp_from_flange_multiple_position_set"),
+    controlled<while_standing<tcp_from_orientation_set>>("qorin_robot_tcp_from_flange_multiple_orientation_set"),
+    controlled<while_standing<tcp_payload_set>>("qorin_robot_tcp_payload_set"),
 };
 } // namespace
 

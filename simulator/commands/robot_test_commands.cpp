@@ -1,9 +1,9 @@
-#include "simulator/commands/robot_test_commands.h"
+#include "simulator/commands/families.h"
 
 #include <cmath>
 
 #include "simulator/commands/typed_command.h"
-#include "simulator/model/value_checks.h"
+#include "simulator/model/io_channels.h"
 
 namespace cbox_simulator
 {

@@ -1,4 +1,4 @@
-#include "simulator/commands/safety_limit_commands.h"
+#include "simulator/commands/families.h"
 
 #include <algorithm>
 #include <array>
@@ -13,7 +13,6 @@ namespace cbox_simulator
 {
 namespace
 {
-using savrent::kinematics::joint_count;
 using savrent::kinematics::joint_range;
 using settings = robot_settings;
 
@@ -42,7 +41,7 @@ QORIN_API_RESULT plane_create_with_distance(robot_state& robot, double norm_x, d
 template <auto limit>
 QORIN_API_RESULT joint_limit_set(robot_state& robot, std::uint32_t joint, double value)
 {
-    if (joint >= joint_count)
+    if (joint >= robot.joint_count())
         return QORIN_API_RESULT_ERROR_ROBOT_JOINT_INDEX_OUT_OF_RANGE;
     if (!is_magnitude(value))
         return QORIN_API_RESULT_ERROR_ROBOT_PARAM_OUT_OF_RANGE;
@@ -52,7 +51,7 @@ QORIN_API_RESULT joint_limit_set(robot_state& robot, std::uint32_t joint, double
 
 QORIN_API_RESULT joint_angle_set(robot_state& robot, std::uint32_t joint, double least, double greatest)
 {
-    if (joint >= joint_count)
+    if (joint >= robot.joint_count())
         return QORIN_API_RESULT_ERROR_ROBOT_JOINT_INDEX_OUT_OF_RANGE;
     if (!is_possible(least) || !is_possible(greatest) || least > greatest)
         return QORIN_API_RESULT_ERROR_ROBOT_PARAM_OUT_OF_RANGE;
@@ -75,7 +74,7 @@ QORIN_API_RESULT velocity_in_reduced_mode_set(robot_state& robot, double tcp_spe
 QORIN_API_RESULT collision_torque_in_reduced_mode_set(robot_state& robot, std::uint32_t count,
                                                       const block_of<double>& torques)
 {
-    if (count > joint_count)
+    if (count > robot.joint_count())
         return QORIN_API_RESULT_ERROR_ROBOT_NUMBER_OF_JOINT_NOT_MATCHED;
     const auto given = std::span(torques).first(count);
     if (!std::ranges::all_of(given, is_magnitude))
@@ -96,15 +95,16 @@ struct bounding_shape_setter<shape, std::index_sequence<index...>>
 
     static QORIN_API_RESULT set(robot_state& robot, QORIN_REF_COORDINATE coordinate, real<index>... values)
     {
-        if (!is_possible(coordinate) || !(is_possible(values) && ...))
-            return QORIN_API_RESULT_ERROR_ROBOT_PARAM_OUT_OF_RANGE;
-        robot.tcp_shape() = {shape, coordinate, {values...}};
-        return QORIN_API_RESULT_OK;
+        const bounding_shape told{shape, coordinate, {values...}};
+        const auto judged = judge(told);
+        if (judged == QORIN_API_RESULT_OK)
+            robot.tcp_shape() = told;
+        return judged;
     }
 };
 
-template <QORIN_BOUNDING_SHAPE shape, std::size_t value_count>
-constexpr auto bounding_shape_set = bounding_shape_setter<shape, std::make_index_sequence<value_count>>::set;
+template <QORIN_BOUNDING_SHAPE shape>
+constexpr auto bounding_shape_set = bounding_shape_setter<shape, std::make_index_sequence<value_count(shape)>>::set;
 
 /// Without a shape none can be in force.
 QORIN_API_RESULT bounding_shape_delete(robot_state& robot)
@@ -137,12 +137,10 @@ constexpr command_row rows[] = {
     controlled<joint_angle_set>("qorin_robot_safety_limit_joint_angle_set"),
     controlled<plane_create_with_origin>("qorin_robot_safety_limit_plane_create_with_norm_origin"),
     controlled<plane_create_with_distance>("qorin_robot_safety_limit_plane_create_with_norm_distance"),
-    controlled<bounding_shape_set<QORIN_BOUNDING_SHAPE_BOX, bounding_shape::most_values>>(
-        "qorin_robot_safety_limit_tcp_bounding_box_set"),
-    controlled<bounding_shape_set<QORIN_BOUNDING_SHAPE_SPHERE, 4>>("qorin_robot_safety_limit_tcp_bounding_sphere_set"),
-    controlled<bounding_shape_set<QORIN_BOUNDING_SHAPE_CYLINDER, 8>>(
-        "qorin_robot_safety_limit_tcp_bounding_cylinder_set"),
-    controlled<bounding_shape_set<QORIN_BOUNDING_SHAPE_CONE, 8>>("qorin_robot_safety_limit_tcp_bounding_cone_set"),
+    controlled<bounding_shape_set<QORIN_BOUNDING_SHAPE_BOX>>("qorin_robot_safety_limit_tcp_bounding_box_set"),
+    controlled<bounding_shape_set<QORIN_BOUNDING_SHAPE_SPHERE>>("qorin_robot_safety_limit_tcp_bounding_sphere_set"),
+    controlled<bounding_shape_set<QORIN_BOUNDING_SHAPE_CYLINDER>>("qorin_robot_safety_limit_tcp_bounding_cylinder_set"),
+    controlled<bounding_shape_set<QORIN_BOUNDING_SHAPE_CONE>>("qorin_robot_safety_limit_tcp_bounding_cone_set"),
     controlled<collision_torque_in_reduced_mode_set>(
         "qorin_robot_safety_limit_collision_detection_torque_in_reduced_mode_set"),
 };

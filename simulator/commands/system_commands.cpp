@@ -1,4 +1,4 @@
-#include "simulator/commands/system_commands.h"
+#include "simulator/commands/families.h"
 
 #include <string_view>
 

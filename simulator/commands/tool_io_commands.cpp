@@ -1,7 +1,7 @@
-#include "simulator/commands/tool_io_commands.h"
+#include "simulator/commands/families.h"
 
 #include "simulator/commands/typed_command.h"
-#include "simulator/model/value_checks.h"
+#include "simulator/model/io_channels.h"
 
 namespace cbox_simulator
 {
@@ -36,8 +36,7 @@ QORIN_API_RESULT analog_input_mode_set(robot_state& robot, std::uint32_t channel
 /// The character says nothing to the simulated supply.
 QORIN_API_RESULT power_voltage_set(robot_state& robot, QORIN_TOOL_IO_POWER_VOLTAGE_OPTION option, char)
 {
-    if (option != QORIN_TOOL_POWER_VOLTAGE_OPTION_0 && option != QORIN_TOOL_POWER_VOLTAGE_OPTION_12 &&
-        option != QORIN_TOOL_POWER_VOLTAGE_OPTION_24)
+    if (!is_possible(option))
         return QORIN_API_RESULT_ERROR_ROBOT_INVALID_IO_VALUE;
     robot.settings().tool.power_voltage = option;
     return QORIN_API_RESULT_OK;
@@ -82,7 +81,7 @@ constexpr command_row rows[] = {
     controlled<on_port<&rs485_port::set_rs485>>("qorin_robot_tool_io_rs485_set"),
     controlled<on_port<&rs485_port::perform_rs485_command>>("qorin_robot_tool_io_rs485_control_cmd"),
     controlled<on_port<&rs485_port::set_rs485_tx_data>>("qorin_robot_tool_io_rs485_io_tx_data_set"),
-    open_to_all<modbus_rtu_read>("qorin_robot_tool_io_rs485_modbus_rtu_read"),
+    controlled<modbus_rtu_read>("qorin_robot_tool_io_rs485_modbus_rtu_read"),
     controlled<on_port<&rs485_port::write_modbus_rtu>>("qorin_robot_tool_io_rs485_modbus_rtu_write"),
 };
 } // namespace

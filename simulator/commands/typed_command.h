@@ -9,7 +9,7 @@
 #include <type_traits>
 
 #include "simulator/commands/argument_type.h"
-#include "simulator/commands/command_table.h"
+#include "simulator/commands/command_row.h"
 #include "simulator/commands/reply_writer.h"
 #include "simulator/commands/request_reader.h"
 #include "simulator/model/block.h"
@@ -207,7 +207,7 @@ QORIN_API_RESULT in_control(box_model& model, client_id client, request_reader& 
                                        : QORIN_API_RESULT_ERROR_YOU_DONT_HAVE_THE_CONTROL;
 }
 
-/// A command that changes something: it needs the control.
+/// The usual command: it needs the control.
 template <auto function>
 [[nodiscard]] constexpr command_row controlled(std::string_view wire_name)
 {
@@ -215,7 +215,7 @@ template <auto function>
     return {wire_name, in_control<command::perform>, command::argument_types};
 }
 
-/// A command for every client.
+/// A command for every client: what comes ahead of the control or after it, and what plays the world around the box.
 template <auto function>
 [[nodiscard]] constexpr command_row open_to_all(std::string_view wire_name)
 {

@@ -12,9 +12,6 @@ namespace
 {
 using protocol::shared_data_t;
 
-constexpr std::size_t robot_records = 2;
-constexpr std::size_t planes_per_robot = 10;
-
 void render_system(const box_model& model, shared_data_t& frame)
 {
     const bool created = model.system().has_value();
@@ -25,9 +22,9 @@ void render_system(const box_model& model, shared_data_t& frame)
 
 void render_idle_safety(shared_data_t& frame)
 {
-    for (std::size_t robot = 0; robot < robot_records; ++robot)
+    for (std::size_t robot = 0; robot < protocol::robot_limit; ++robot)
     {
-        for (std::size_t plane = 0; plane < planes_per_robot; ++plane)
+        for (std::size_t plane = 0; plane < protocol::safety_plane_limit; ++plane)
             frame.safety_planes[robot].plane_switch[plane] = QORIN_SWITCH_OFF;
         frame.safety_shapes[robot].tcp_bounding_shape_switch = QORIN_SWITCH_OFF;
         frame.safety_limit_switch[robot] = QORIN_SWITCH_OFF;
@@ -36,7 +33,7 @@ void render_idle_safety(shared_data_t& frame)
 
 void render_idle_peripherals(shared_data_t& frame)
 {
-    for (std::size_t robot = 0; robot < robot_records; ++robot)
+    for (std::size_t robot = 0; robot < protocol::robot_limit; ++robot)
     {
         protocol::record_at<protocol::ft_sensor_data_t>(frame, robot).sensor_switch = QORIN_SWITCH_OFF;
         protocol::record_at<protocol::tool_module_data_t>(frame, robot).power_voltage =

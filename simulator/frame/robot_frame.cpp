@@ -8,6 +8,7 @@
 #include "simulator/frame/frame_array.h"
 #include "simulator/frame/frame_text.h"
 #include "simulator/frame/robot_functions_frame.h"
+#include "simulator/model/pressed_force.h"
 
 namespace cbox_simulator
 {
@@ -28,6 +29,8 @@ static_assert(last_drive * joint_module_data_t::stride + offsetof(joint_module_d
               sizeof(shared_data_t::joint_modules));
 static_assert(robot_set::robot_limit * tool_module_data_t::stride <= sizeof(shared_data_t::tool_modules));
 static_assert(robot_set::robot_limit == std::size(decltype(shared_data_t::robots){}));
+
+constexpr double tool_current = 0.1; // of the module, while its supply is on; amperes
 
 void render_switches(const robot_switches& switches, robot_data_t& record)
 {
@@ -60,6 +63,10 @@ void render_poses(const robot_state& robot, robot_data_t& record)
     put(record.tcp_from_flange, robot.tcp_from_flange());
     put(record.tcp_pose_command, robot.commanded().tcp);
     put(record.tcp_pose_actual, robot.tcp_pose());
+    put(record.tcp_pos_speed_command, robot.commanded().tcp_velocity);
+    put(record.tcp_ort_speed_command, robot.commanded().tcp_turning);
+    put(record.tcp_pos_speed_actual, robot.actual().tcp_velocity);
+    put(record.tcp_ort_speed_actual, robot.actual().tcp_turning);
     put(record.flange_pose_command, robot.commanded().flange);
     put(record.flange_pose_actual, robot.flange_pose());
 }
@@ -68,7 +75,10 @@ void render_joint(const robot_state& robot, std::size_t joint, joint_data_t& rec
 {
     record.angle_command = robot.commanded().joints[joint];
     record.angle_actual = robot.joint_angles()[joint];
-    record.speed_actual = robot.joint_speeds()[joint];
+    record.speed_command = robot.commanded().speeds[joint];
+    record.acc_command = robot.commanded().accelerations[joint];
+    record.speed_actual = robot.actual().speeds[joint];
+    record.acc_actual = robot.actual().accelerations[joint];
     // Readers hand out the second element first: least, then greatest angle.
     const auto& spec = robot.arm().joints[joint];
     record.spec_angle[0] = spec.angle_max;
@@ -92,7 +102,6 @@ void render_drive(const drive& source, joint_module_data_t& record)
 {
     put_text(record.sw_version, source.sw_version);
     record.voltage = source.voltage;
-    record.current = source.current;
     record.temperature = source.temperature;
     put(record.error_code, source.error_code);
     record.velocity_feedforward_ratio = source.velocity_feedforward_ratio;
@@ -114,7 +123,7 @@ void render_tool_module(const tool_module& module, tool_module_data_t& record)
     put(record.analog_input, module.analog_input);
     put(record.analog_output, module.analog_output);
     record.power_voltage = module.power_voltage;
-    record.power_current = module.power_current;
+    record.power_current = module.power_voltage == QORIN_TOOL_POWER_VOLTAGE_OPTION_0 ? 0 : tool_current;
     put(record.led_color, module.led_color);
 }
 
@@ -122,10 +131,12 @@ void render_robot(std::uint32_t id, const robot_state& robot, shared_data_t& fra
 {
     auto& record = frame.robots[id];
     const auto& settings = robot.settings();
-    record.number_of_joints = joint_count;
+    record.number_of_joints = static_cast<std::uint32_t>(robot.joint_count());
     record.model_name = robot.arm().model;
     record.control_mode = settings.control_mode;
     record.state_moving = robot.moving_state();
+    put_text(record.current_motion_name, robot.motion_name());
+    record.safety_violation = robot.safety_violation() != 0 ? robot.safety_violation() : robot.collision();
     record.speed_factor = settings.speed_factor;
     record.tcp_payload[0] = settings.tcp_payload.mass;
     put(&record.tcp_payload[1], settings.tcp_payload.centre_of_mass);
@@ -137,12 +148,16 @@ void render_robot(std::uint32_t id, const robot_state& robot, shared_data_t& fra
 
     record.tool_module_index = id;
     render_tool_module(settings.tool, record_at<tool_module_data_t>(frame, id));
+    const auto torques = joint_torques(robot);
+    const auto currents = drive_currents(robot, torques);
     for (std::uint32_t joint = 0; joint < joint_count; ++joint)
     {
         const auto drive_index = static_cast<std::uint32_t>(id * joint_count + joint);
         record.joint[joint].module_index = drive_index;
         render_joint(robot, joint, record.joint[joint]);
+        record.joint[joint].torque_actual = torques[joint];
         render_drive(settings.drives[joint], record_at<joint_module_data_t>(frame, drive_index));
+        record_at<joint_module_data_t>(frame, drive_index).current = currents[joint];
     }
 }
 } // namespace
@@ -151,9 +166,7 @@ void render_robots(const robot_set& robots, shared_data_t& frame)
 {
     frame.robot_count = robots.record_count();
     for (std::uint32_t id = 0; id < robot_set::robot_limit; ++id)
-    {
         if (const auto* robot = robots.find(id))
             render_robot(id, *robot, frame);
-    }
 }
 } // namespace cbox_simulator

@@ -4,6 +4,7 @@
 #include <cstddef>
 
 #include "simulator/frame/frame_array.h"
+#include "simulator/model/pressed_force.h"
 
 namespace cbox_simulator
 {
@@ -48,16 +49,23 @@ void render_force_control(const force_control& control, robot_data_t& record)
     put(record.force_ctrl_stiffness, control.stiffness);
 }
 
-void render_force_sensors(std::uint32_t id, const robot_settings& settings, shared_data_t& frame)
+void put_force_torque(const axis_values& values, void* force, void* torque)
 {
-    protocol::record_at<ft_sensor_data_t>(frame, id).sensor_switch = settings.ft_sensor.active;
-    const auto& external = settings.external_ft;
-    frame.ext_ft_sensors[id].sensor_switch = external.active;
-    if (external.active == QORIN_SWITCH_OFF)
-        return;
-    const auto& [x, y, z, rx, ry, rz] = external.force_torque;
-    put(frame.robots[id].force_ctrl_actual_force, std::array{x, y, z});
-    put(frame.robots[id].force_ctrl_actual_torque, std::array{rx, ry, rz});
+    const auto& [x, y, z, rx, ry, rz] = values;
+    put(force, std::array{x, y, z});
+    put(torque, std::array{rx, ry, rz});
+}
+
+void render_force_sensors(std::uint32_t id, const robot_state& of, shared_data_t& frame)
+{
+    const auto& settings = of.settings();
+    auto& sensor = protocol::record_at<ft_sensor_data_t>(frame, id);
+    sensor.sensor_switch = settings.ft_sensor.active;
+    if (settings.ft_sensor.active == QORIN_SWITCH_ON)
+        put_force_torque(measured_force(of), sensor.actual_force, sensor.actual_torque);
+    frame.ext_ft_sensors[id].sensor_switch = settings.external_ft.active;
+    auto& record = frame.robots[id];
+    put_force_torque(controlled_force(of), record.force_ctrl_actual_force, record.force_ctrl_actual_torque);
 }
 
 void render_motion_from_outside(const robot_state& robot, robot_data_t& record)
@@ -77,7 +85,7 @@ void render_robot_functions(std::uint32_t id, const robot_state& robot, shared_d
     auto& record = frame.robots[id];
     render_work_space(id, robot, frame);
     render_force_control(settings.force, record);
-    render_force_sensors(id, settings, frame);
+    render_force_sensors(id, robot, frame);
     render_motion_from_outside(robot, record);
     put(record.joint_target_velocity, settings.targets.velocity);
     put(record.joint_target_acceleration, settings.targets.acceleration);

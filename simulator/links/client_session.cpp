@@ -1,5 +1,6 @@
 #include "simulator/links/client_session.h"
 
+#include <algorithm>
 #include <utility>
 
 #include <boost/asio/post.hpp>
@@ -8,6 +9,7 @@
 #include <poll.h>
 
 #include "protocol/status_frame.h"
+#include "simulator/printable.h"
 
 namespace cbox_simulator
 {
@@ -21,6 +23,12 @@ constexpr std::size_t most_pending_events = 256;
 
 // A client that reads slowly shall not find seconds of old frames on its way.
 constexpr int data_link_buffer_bytes = 4 * sizeof(protocol::shared_data_t);
+
+// Events wait behind the frames that show what they tell of, unless the client does not read its frames.
+constexpr std::chrono::milliseconds longest_wait_for_frames(50);
+
+// From the first link to the third a client needs a third of a second.
+constexpr std::chrono::seconds longest_pairing(2);
 
 // Finds out within about ten seconds that a client's machine is gone, which no link would tell by itself.
 constexpr int keep_alive_idle_seconds = 5;
@@ -52,7 +60,8 @@ std::span<const std::byte> bytes_of(const Record& record)
 
 client_session::client_session(client_id id, asio::ip::address address, const asio::any_io_executor& executor,
                                const session_environment& environment)
-    : id_(id), address_(std::move(address)), environment_(environment), reply_timer_(executor)
+    : id_(id), address_(std::move(address)), environment_(environment), pairing_timer_(executor),
+      reply_timer_(executor), event_timer_(executor)
 {
     links_.reserve(link_count); // operations hold references to the sockets
 }
@@ -60,10 +69,11 @@ client_session::client_session(client_id id, asio::ip::address address, const as
 void client_session::add_link(asio::ip::tcp::socket link)
 {
     prepare(link);
-    const auto index = static_cast<link_index>(links_.size());
+    const auto index = next_link();
     links_.push_back(std::move(link));
     if (index == command_link)
     {
+        wait_for_links();
         read_request();
         return;
     }
@@ -75,6 +85,7 @@ void client_session::add_link(asio::ip::tcp::socket link)
     watch_for_close(index);
     if (complete())
     {
+        pairing_timer_.cancel();
         ++environment_.counters.clients_accepted;
         ++environment_.counters.clients_connected;
         environment_.log.write(log_level::info, "client {} connected from {}", id_, address_.to_string());
@@ -99,7 +110,9 @@ void client_session::leave(std::string_view reason)
     if (closed_)
         return;
     closed_ = true;
+    pairing_timer_.cancel();
     reply_timer_.cancel();
+    event_timer_.cancel();
     for (auto& link : links_)
     {
         error_code ignored;
@@ -115,6 +128,17 @@ void client_session::leave(std::string_view reason)
                    [self = shared_from_this()] { self->environment_.deliver_events(); });
     }
     environment_.log.write(log_level::info, "client {} from {} {}", id_, address_.to_string(), reason);
+}
+
+void client_session::wait_for_links()
+{
+    pairing_timer_.expires_after(longest_pairing);
+    pairing_timer_.async_wait(
+        [self = shared_from_this()](const error_code&)
+        {
+            if (!self->complete())
+                self->leave("is dropped, as its three links did not come in time");
+        });
 }
 
 void client_session::read_request()
@@ -142,12 +166,16 @@ void client_session::read_request()
 
 void client_session::serve_request()
 {
+    environment_.catch_up();
+    if (closed_) // a due frame can find the client gone
+        return;
     request_reader arguments(request_);
     reply_writer outputs(reply_);
     outputs.result(perform(arguments, outputs));
     ++environment_.counters.commands_served;
     environment_.deliver_events();
-    const auto delay = environment_.model.take_reply_delay();
+    const auto delay =
+        std::max(environment_.model.take_reply_delay(), environment_.faults.delay_of(arguments.wire_name()));
     if (closed_)
         return;
     if (delay > delay.zero())
@@ -169,9 +197,9 @@ void client_session::reply_after(std::chrono::milliseconds delay)
 
 void client_session::send_reply()
 {
-    const auto error = reply_output_.write(links_[command_link], bytes_of(reply_),
-                                           [self = shared_from_this()](const error_code& late_error)
-                                           { self->reply_sent(late_error); });
+    const auto error = reply_output_.write(
+        links_[command_link], bytes_of(reply_), environment_.faults.links[command_link],
+        [self = shared_from_this()](const error_code& late_error) { self->reply_sent(late_error); });
     if (!reply_output_.busy())
         reply_sent(error);
 }
@@ -185,6 +213,12 @@ QORIN_API_RESULT client_session::perform(request_reader& arguments, reply_writer
         environment_.log.write(log_level::warning, "client {} sent a command that this box does not support: {}", id_,
                                printable(name));
         return QORIN_API_RESULT_ERROR_NO_SUPPORT;
+    }
+    if (const auto answer = environment_.faults.answer_to(name))
+    {
+        environment_.log.write(log_level::debug, "client {} {}: {} on request", id_, name,
+                               static_cast<unsigned int>(*answer));
+        return *answer;
     }
     const auto owner_before = environment_.model.control_owner();
     const auto result = command->handler(environment_.model, id_, arguments, outputs);
@@ -225,7 +259,7 @@ void client_session::watch_for_close(link_index link)
     links_[link].async_read_some(asio::buffer(ignored_input_),
                                  [self = shared_from_this(), link](const error_code& error, std::size_t)
                                  {
-                                     if (self->closed_)
+                                     if (self->closed_ || self->output_on(link).cut())
                                          return;
                                      if (error)
                                      {
@@ -236,16 +270,28 @@ void client_session::watch_for_close(link_index link)
                                  });
 }
 
+const record_writer& client_session::output_on(link_index link) const
+{
+    return link == data_link ? frame_output_ : event_output_;
+}
+
 void client_session::send_frame(std::span<const std::byte> frame)
 {
     if (closed_ || !complete())
         return;
     if (frame_output_.busy())
     {
-        ++environment_.counters.frames_skipped;
+        if (!newest_frame_.empty())
+            ++environment_.counters.frames_skipped;
+        newest_frame_.assign(frame.begin(), frame.end());
         return;
     }
-    const auto error = frame_output_.write(links_[data_link], frame,
+    write_frame(frame);
+}
+
+void client_session::write_frame(std::span<const std::byte> frame)
+{
+    const auto error = frame_output_.write(links_[data_link], frame, environment_.faults.links[data_link],
                                            [self = shared_from_this()](const error_code& late_error)
                                            { self->frame_written(late_error); });
     if (!frame_output_.busy())
@@ -262,6 +308,10 @@ void client_session::frame_written(const error_code& error)
         return;
     }
     ++environment_.counters.frames_sent;
+    if (!newest_frame_.empty())
+        write_frame(std::exchange(newest_frame_, {}));
+    else
+        write_events();
 }
 
 void client_session::push_event(const savrent::cc::val_obj::event_info& event)
@@ -279,19 +329,41 @@ void client_session::push_event(const savrent::cc::val_obj::event_info& event)
 
 void client_session::write_events()
 {
+    if (!pending_events_.empty() && frame_output_.busy() && !events_overtake_)
+    {
+        wait_for_frames();
+        return;
+    }
     while (!closed_ && !event_output_.busy() && !pending_events_.empty())
     {
         const auto event = pending_events_.front();
         pending_events_.pop_front();
-        const auto error = event_output_.write(links_[event_link], bytes_of(event),
-                                               [self = shared_from_this()](const error_code& late_error)
-                                               {
-                                                   if (late_error)
-                                                       self->leave("left in the middle of an event");
-                                                   self->write_events();
-                                               });
+        const auto error =
+            event_output_.write(links_[event_link], bytes_of(event), environment_.faults.links[event_link],
+                                [self = shared_from_this()](const error_code& late_error)
+                                {
+                                    if (late_error)
+                                        self->leave("left in the middle of an event");
+                                    self->write_events();
+                                });
         if (error)
             leave("left in the middle of an event");
     }
+    if (pending_events_.empty())
+        events_overtake_ = false;
+}
+
+void client_session::wait_for_frames()
+{
+    if (std::exchange(events_wait_, true))
+        return;
+    event_timer_.expires_after(longest_wait_for_frames);
+    event_timer_.async_wait(
+        [self = shared_from_this()](const error_code&)
+        {
+            self->events_wait_ = false;
+            self->events_overtake_ = !self->pending_events_.empty();
+            self->write_events();
+        });
 }
 } // namespace cbox_simulator

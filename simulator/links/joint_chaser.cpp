@@ -59,6 +59,7 @@ void joint_chaser::receive_next(std::uint32_t robot_id)
 
 void joint_chaser::take(std::uint32_t robot_id, std::span<const std::byte> bytes)
 {
+    environment_.catch_up();
     chaser_datagram datagram{};
     if (bytes.size() == sizeof datagram)
         std::memcpy(&datagram, bytes.data(), sizeof datagram);
@@ -74,19 +75,19 @@ void joint_chaser::take(std::uint32_t robot_id, std::span<const std::byte> bytes
 
 bool joint_chaser::tell_robot(std::uint32_t robot_id, const chaser_datagram& datagram)
 {
-    auto* robot = environment_.model.robots().find(robot_id);
-    if (!robot)
-        return false;
     switch (datagram.command)
     {
     case protocol::chaser_move:
     {
         robot_state::joint_array targets;
         std::memcpy(targets.data(), datagram.joints, sizeof datagram.joints);
-        return robot->chase(targets);
+        return environment_.model.chase(robot_id, targets);
     }
     case protocol::chaser_stop:
-        return robot->stop_chasing();
+    {
+        auto* robot = environment_.model.robots().find(robot_id);
+        return robot && environment_.model.motion_of(*robot).stop_chasing();
+    }
     default:
         return false;
     }

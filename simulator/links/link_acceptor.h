@@ -37,18 +37,21 @@ public:
         // A visit can end a client, so the list is only cleaned up ahead of the round.
         std::erase_if(clients_, [](const auto& client) { return client->closed(); });
         for (const auto& client : clients_)
-        {
             visit(*client);
-        }
     }
 
 private:
+    void open();
+    void refuse_for_a_while();
+    void listen_again();
     void accept_next();
     void accept_later();
     void admit(boost::asio::ip::tcp::socket link);
     [[nodiscard]] std::shared_ptr<client_session> whose_turn(const boost::asio::ip::address& address);
 
     boost::asio::ip::tcp::acceptor acceptor_;
+    boost::asio::ip::tcp::endpoint endpoint_;
+    bool closed_ = false;
     boost::asio::steady_timer retry_timer_;
     boost::asio::ip::tcp::endpoint peer_; ///< of the link being accepted
     const session_environment& environment_;

@@ -1,12 +1,12 @@
 #include "simulator/model/button_panel.h"
 
-#include "simulator/model/value_checks.h"
+#include "simulator/model/possible_values.h"
 
 namespace cbox_simulator
 {
 QORIN_API_RESULT button_panel::set_power_button(QORIN_BUTTON_STATE state)
 {
-    if (!is_button_state(state))
+    if (!is_possible(state))
         return QORIN_API_RESULT_ERROR_CBOX_INVALID_IO_VALUE;
     if (power_button_ != state)
         events_.post(QORIN_EVENT_GRP_CONTROL_BOX_BUTTON_CHANGED,
@@ -18,17 +18,24 @@ QORIN_API_RESULT button_panel::set_power_button(QORIN_BUTTON_STATE state)
 
 QORIN_API_RESULT button_panel::set_emergency_button(QORIN_BUTTON_STATE state)
 {
-    if (!is_button_state(state))
+    if (!is_possible(state))
         return QORIN_API_RESULT_ERROR_CBOX_INVALID_IO_VALUE;
-    change_emergency(emergency_button_, state, 0);
+    emergency_knob_ = state;
+    change_emergency(emergency_button_, circuit_open_ ? QORIN_BUTTON_STATE_PUSHED : state, 0);
     return QORIN_API_RESULT_OK;
+}
+
+void button_panel::open_emergency_circuit(bool open)
+{
+    circuit_open_ = open;
+    change_emergency(emergency_button_, open ? QORIN_BUTTON_STATE_PUSHED : emergency_knob_, 0);
 }
 
 QORIN_API_RESULT button_panel::set_amr_emergency_button(std::uint32_t index, QORIN_BUTTON_STATE state)
 {
     if (!mobile_base_present_ || index >= amr_button_count)
         return QORIN_API_RESULT_ERROR_CBOX_INVALID_AMR_EMG_NUMBER;
-    if (!is_button_state(state))
+    if (!is_possible(state))
         return QORIN_API_RESULT_ERROR_CBOX_INVALID_IO_VALUE;
     change_emergency(amr_emergency_buttons_[index], state, index + 1);
     return QORIN_API_RESULT_OK;

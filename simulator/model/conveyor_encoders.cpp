@@ -6,6 +6,12 @@
 
 namespace cbox_simulator
 {
+double conveyor_encoders::belt_speed() const
+{
+    const auto& encoder = encoders_[index_];
+    return switch_ == QORIN_SWITCH_ON ? encoder.rate * encoder.scale_factor / encoder.scale_divisor : 0;
+}
+
 QORIN_API_RESULT conveyor_encoders::select_conveyor_encoder(std::uint32_t encoder)
 {
     if (encoder >= encoder_count)
@@ -16,7 +22,7 @@ QORIN_API_RESULT conveyor_encoders::select_conveyor_encoder(std::uint32_t encode
 
 QORIN_API_RESULT conveyor_encoders::set_conveyor_encoder_switch(QORIN_SWITCH value)
 {
-    if (!is_switch(value))
+    if (!is_possible(value))
         return QORIN_API_RESULT_ERROR_ROBOT_PARAM_OUT_OF_RANGE;
     switch_ = value;
     return QORIN_API_RESULT_OK;

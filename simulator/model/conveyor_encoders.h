@@ -30,6 +30,8 @@ public:
     [[nodiscard]] const std::array<conveyor_encoder, encoder_count>& all_conveyor_encoders() const { return encoders_; }
     [[nodiscard]] std::uint32_t conveyor_encoder_index() const { return index_; }
     [[nodiscard]] QORIN_SWITCH conveyor_encoder_switch() const { return switch_; }
+    /// As the encoder in use tells it, in millimetres per second; 0 while none is.
+    [[nodiscard]] double belt_speed() const;
 
     QORIN_API_RESULT select_conveyor_encoder(std::uint32_t encoder);
     QORIN_API_RESULT set_conveyor_encoder_switch(QORIN_SWITCH value);

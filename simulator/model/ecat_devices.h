@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <span>
 
+#include "protocol/limits.h"
 #include "qorin/result.h"
 
 namespace cbox_simulator
@@ -48,8 +49,8 @@ class ecat_devices
 public:
     using bytes = std::span<const unsigned char>;
 
-    static constexpr std::size_t wireless_port_count = 16;
-    static constexpr std::size_t low_data_device_count = 4;
+    static constexpr std::size_t wireless_port_count = protocol::io_link_port_limit;
+    static constexpr std::size_t low_data_device_count = protocol::low_data_device_limit;
 
     [[nodiscard]] const io_link_master& io_link() const { return io_link_; }
     [[nodiscard]] const auto& wireless_ports() const { return wireless_ports_; }

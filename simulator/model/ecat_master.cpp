@@ -1,28 +1,12 @@
 #include "simulator/model/ecat_master.h"
 
+#include "simulator/model/possible_values.h"
+
 namespace cbox_simulator
 {
-namespace
-{
-bool is_mode(QORIN_OPERATIONAL_MODE mode)
-{
-    switch (mode)
-    {
-    case QORIN_OPERATIONAL_MODE_INIT:
-    case QORIN_OPERATIONAL_MODE_PRE_OPERATIONAL:
-    case QORIN_OPERATIONAL_MODE_BOOTSTRAP:
-    case QORIN_OPERATIONAL_MODE_SAFE_OPERATIONAL:
-    case QORIN_OPERATIONAL_MODE_OPERATIONAL:
-        return true;
-    default:
-        return false;
-    }
-}
-} // namespace
-
 QORIN_API_RESULT ecat_master::set_ecat_connection_state(QORIN_ECAT_CONN_STATE state)
 {
-    if (state < QORIN_ECAT_CONN_STATE_CONNECT_TRYING || state > QORIN_ECAT_CONN_STATE_DISCONNECTED)
+    if (!is_possible(state))
         return QORIN_API_RESULT_ERROR_CBOX_INVALID_IO_VALUE;
     if (state == connection_state_)
         return QORIN_API_RESULT_OK;
@@ -39,7 +23,7 @@ QORIN_API_RESULT ecat_master::set_ecat_connection_state(QORIN_ECAT_CONN_STATE st
 QORIN_API_RESULT ecat_master::set_operational_mode(QORIN_OPERATIONAL_MODE mode)
 {
     const bool connected = connection_state_ == QORIN_ECAT_CONN_STATE_CONNECTED;
-    if (!is_mode(mode) || (!connected && mode != QORIN_OPERATIONAL_MODE_INIT))
+    if (!is_possible(mode) || (!connected && mode != QORIN_OPERATIONAL_MODE_INIT))
         return QORIN_API_RESULT_ERROR_CBOX_CANNOT_CHANGE_OPERATIONAL_STATE;
     if (mode == operational_mode_)
         return QORIN_API_RESULT_WARNING_CBOX_OPERATION_MODE_ALREADY_CHANGED;

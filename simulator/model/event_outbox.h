@@ -20,7 +20,14 @@ using savrent::cc::val_obj::event_info;
 class event_outbox
 {
 public:
-    void post(const event_info& event) { events_.push_back(event); }
+    void post(const event_info& event)
+    {
+        echo(event);
+        news_ = true;
+    }
+
+    /// An event that tells nothing of the box itself.
+    void echo(const event_info& event) { events_.push_back(event); }
 
     /// An event without parameters.
     void post(QORIN_EVENT_GRP group, QORIN_EVENT_SUBGRP subgroup, std::uint32_t sender_id = 0)
@@ -35,8 +42,12 @@ public:
     /// What has come since the last time, oldest first.
     [[nodiscard]] std::vector<event_info> take() { return std::exchange(events_, {}); }
 
+    /// True once after an event that tells of the box: the frame that shows it is to leave ahead of the event.
+    [[nodiscard]] bool take_news() { return std::exchange(news_, false); }
+
 private:
     std::vector<event_info> events_;
+    bool news_ = false;
 };
 } // namespace cbox_simulator
 

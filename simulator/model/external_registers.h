@@ -18,6 +18,8 @@ template <class Value>
 class register_bank
 {
 public:
+    using value_type = Value;
+
     static constexpr std::size_t register_count = 64;
 
     using value_check = bool (*)(Value);

@@ -11,7 +11,7 @@
 #include "qorin/enumerations.h"
 #include "qorin/result.h"
 #include "simulator/model/block.h"
-#include "simulator/model/value_checks.h"
+#include "simulator/model/possible_values.h"
 
 namespace cbox_simulator
 {
@@ -40,9 +40,8 @@ public:
 
     QORIN_API_RESULT start_eip_scanner(std::string_view, std::uint16_t, QORIN_EIP_IO_DEVICE_MODEL model)
     {
-        return is_from_to(model, QORIN_EIP_IO_DEV_UNDEFINED, QORIN_EIP_IO_DEV_ARC_ZI_SOL350)
-                   ? start(eip_scanner_runs_, QORIN_API_RESULT_EIP_REQUEST_FAIL)
-                   : QORIN_API_RESULT_EIP_REQUEST_FAIL;
+        return is_possible(model) ? start(eip_scanner_runs_, QORIN_API_RESULT_EIP_REQUEST_FAIL)
+                                  : QORIN_API_RESULT_EIP_REQUEST_FAIL;
     }
 
     QORIN_API_RESULT start_rdm(std::string_view, std::uint16_t, std::string_view, std::uint16_t, std::uint32_t)
@@ -76,6 +75,9 @@ public:
     {
         return tell(scanner_rx_data_, size, first_bytes);
     }
+
+    [[nodiscard]] const byte_block& scanner_tx_bytes() const { return scanner_tx_data_; }
+    [[nodiscard]] const byte_block& scanner_rx_bytes() const { return scanner_rx_data_; }
 
 private:
     static QORIN_API_RESULT start(bool& runs, QORIN_API_RESULT refusal)

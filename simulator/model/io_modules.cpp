@@ -1,6 +1,6 @@
 #include "simulator/model/io_modules.h"
 
-#include "simulator/model/value_checks.h"
+#include "simulator/model/io_channels.h"
 
 namespace cbox_simulator
 {

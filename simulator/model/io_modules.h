@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "protocol/limits.h"
 #include "qorin/enumerations.h"
 #include "qorin/result.h"
 #include "simulator/model/block.h"
@@ -16,8 +17,8 @@ namespace cbox_simulator
 /// What one I/O module has at its terminals. Bit n of a word is channel n.
 struct io_module
 {
-    static constexpr std::uint32_t digital_channels = 16;
-    static constexpr std::uint32_t analog_channels = 2;
+    static constexpr std::uint32_t digital_channels = protocol::io_digital_channels;
+    static constexpr std::uint32_t analog_channels = protocol::io_analog_channels;
 
     std::string sw_version = "SIM.IO.v1.0";
     std::uint32_t digital_input = 0; ///< the FSoE inputs are its lowest bits

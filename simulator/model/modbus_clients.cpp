@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "simulator/model/value_checks.h"
+#include "simulator/model/possible_values.h"
 
 namespace cbox_simulator
 {
@@ -72,7 +72,7 @@ QORIN_API_RESULT modbus_clients::set_sequential_mode(std::string_view name, QORI
     return with(clients_, name, unknown_client,
                 [&](client& found)
                 {
-                    if (!is_switch(value))
+                    if (!is_possible(value))
                         return QORIN_API_RESULT_MODBUS_INPUT_ERROR;
                     found.sequential_mode = value;
                     return QORIN_API_RESULT_OK;
@@ -96,8 +96,7 @@ QORIN_API_RESULT modbus_clients::create_io(std::string_view name, QORIN_MODBUS_C
         return unknown_client;
     if (name.empty())
         return unknown_io;
-    if (!is_from_to(type, QORIN_MODBUS_CLIENT_IO_TYPE_DIGITAL_INPUT, QORIN_MODBUS_CLIENT_IO_TYPE_REGISTER_OUTPUT) ||
-        count == 0 || address >= modbus_address_count || count > modbus_address_count - address)
+    if (!is_possible(type) || count == 0 || address >= modbus_address_count || count > modbus_address_count - address)
         return QORIN_API_RESULT_MODBUS_INPUT_ERROR;
     if (io_points_.size() == most_io_points || io_points_.contains(name))
         return QORIN_API_RESULT_MODBUS_CLIENT_IO_ADD_FAIL;
@@ -124,7 +123,7 @@ QORIN_API_RESULT modbus_clients::start_io(std::string_view name, QORIN_MODBUS_CL
     return with(io_points_, name, unknown_io,
                 [&](io_point& point)
                 {
-                    if (!is_from_to(rate, QORIN_MODBUS_CLIENT_IO_UPDATE_HZ_0, QORIN_MODBUS_CLIENT_IO_UPDATE_HZ_100))
+                    if (!is_possible(rate))
                         return QORIN_API_RESULT_MODBUS_INPUT_ERROR;
                     point.rate = hertz(rate);
                     return QORIN_API_RESULT_OK;

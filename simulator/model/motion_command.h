@@ -162,7 +162,8 @@ struct motion_command
     double radius_for_blending = 0;
     std::optional<start_condition> start;
     std::optional<io_command> io;
-    double running_time = 0; ///< Stays 0, as the simulated motion takes no time.
+    double running_time = 0;              ///< Seconds: as planned when it was queued, then as long as it took.
+    std::optional<double> adjusted_speed; ///< What the joints can keep up with, known when it was queued.
     std::tuple<std::optional<joint_path>, std::optional<tcp_path>, std::optional<welding_weave>,
                std::optional<arc_sensing>>
         parts;

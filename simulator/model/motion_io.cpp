@@ -1,6 +1,6 @@
 #include "simulator/model/motion_io.h"
 
-#include <cmath>
+#include "simulator/model/possible_values.h"
 
 namespace cbox_simulator
 {
@@ -30,27 +30,36 @@ io_channels channels_of(QORIN_IO_TYPE type)
     case QORIN_IO_TYPE_TOOL_DIGITAL_OUTPUT:
         return {.count = 4, .digital = true, .output = true};
     case QORIN_IO_TYPE_CBOX_ANALOG_INPUT:
-    case QORIN_IO_TYPE_CBOX_SAFETY_MODULE_ANALOG_INPUT:
     case QORIN_IO_TYPE_TOOL_ANALOG_INPUT:
         return {.count = 2};
     case QORIN_IO_TYPE_CBOX_ANALOG_OUTPUT:
-    case QORIN_IO_TYPE_CBOX_SAFETY_MODULE_ANALOG_OUTPUT:
     case QORIN_IO_TYPE_TOOL_ANALOG_OUTPUT:
         return {.count = 2, .output = true};
+    default: // the safety module has no analog terminals
+        break;
     }
     return {};
 }
 
 bool is_value_for(const io_channels& channels, double value)
 {
-    return channels.digital ? value == 0 || value == 1 : std::isfinite(value);
+    return channels.digital ? value == 0 || value == 1 : is_possible(value);
 }
 
 bool is_when(QORIN_IO_CONTROL_CONDITION condition, double when)
 {
-    if (condition == QORIN_IO_CONTROL_CONDITION_PERCENTAGE)
-        return when >= 0 && when <= 100;
-    return condition == QORIN_IO_CONTROL_CONDITION_TIME && when >= 0 && std::isfinite(when);
+    switch (condition)
+    {
+    case QORIN_IO_CONTROL_CONDITION_BEGIN:
+    case QORIN_IO_CONTROL_CONDITION_END:
+        return is_possible(when);
+    case QORIN_IO_CONTROL_CONDITION_TIME:
+        return is_possible(when, number_range::not_negative);
+    case QORIN_IO_CONTROL_CONDITION_PERCENTAGE:
+        return is_possible(when, number_range::percentage);
+    default:
+        return false;
+    }
 }
 } // namespace
 

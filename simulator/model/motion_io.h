@@ -6,11 +6,10 @@
 #include "qorin/enumerations.h"
 #include "qorin/result.h"
 
-/// What a motion command has to do with inputs and outputs. The simulated motion takes no time: it waits for no
-/// condition and switches no output, and only what is told is kept.
+/// What a motion command has to do with inputs and outputs.
 namespace cbox_simulator
 {
-/// A motion starts when the channel has the value.
+/// A motion waits for the channel to have the value.
 struct start_condition
 {
     QORIN_IO_TYPE type;
@@ -20,7 +19,9 @@ struct start_condition
     bool operator==(const start_condition&) const = default;
 };
 
-/// A motion gives the channel its value after a time, or at a percentage of its way.
+/// A motion gives the channel its value at its start or end, where `when` says nothing, after a time of its own (which
+/// stands still with it and follows the speed factor), or at a percentage of its way. What is told for later than the
+/// end comes with the end.
 struct io_command
 {
     QORIN_IO_CONTROL_CONDITION condition;

@@ -5,6 +5,7 @@
 
 #include <Eigen/Geometry>
 
+#include "kinematics/angles.h"
 #include "kinematics/rotation.h"
 
 namespace cbox_simulator
@@ -41,6 +42,13 @@ pose outer_of(const pose& inner, const pose& local)
 std::array<double, 3> orientation_of_quaternion(double x, double y, double z, double w)
 {
     return savrent::kinematics::orientation_of(Eigen::Quaterniond(w, x, y, z).normalized().toRotationMatrix());
+}
+
+std::array<double, 3> turn_from_to(const pose& from, const pose& to)
+{
+    const Eigen::AngleAxisd turn(Eigen::Matrix3d(rotation_of(to) * rotation_of(from).transpose()));
+    const Eigen::Vector3d vector = turn.axis() * kinematics::degrees(turn.angle());
+    return {vector.x(), vector.y(), vector.z()};
 }
 
 bool is_finite(const std::array<double, 6>& values)

@@ -16,6 +16,9 @@ using pose = std::array<double, 6>;
 /// The frame in which what has the pose `inner` in the base frame has the pose `local`.
 [[nodiscard]] pose outer_of(const pose& inner, const pose& local);
 
+/// The turn from one orientation to the other, as a vector along its axis seen from the base. Degrees.
+[[nodiscard]] std::array<double, 3> turn_from_to(const pose& from, const pose& to);
+
 [[nodiscard]] bool is_finite(const std::array<double, 6>& values);
 } // namespace cbox_simulator
 

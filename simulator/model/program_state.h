@@ -1,7 +1,7 @@
 #ifndef SIMULATOR_MODEL_PROGRAM_STATE_H
 #define SIMULATOR_MODEL_PROGRAM_STATE_H
 
-#include "simulator/model/value_checks.h"
+#include "simulator/model/possible_values.h"
 
 namespace cbox_simulator
 {
@@ -16,7 +16,7 @@ public:
     /// Both refuse what is no member with QORIN_API_RESULT_ERROR_CBOX_INVALID_IO_VALUE.
     QORIN_API_RESULT set_manual_control(QORIN_SWITCH value)
     {
-        if (!is_switch(value))
+        if (!is_possible(value))
             return QORIN_API_RESULT_ERROR_CBOX_INVALID_IO_VALUE;
         manual_control_ = value;
         return QORIN_API_RESULT_OK;
@@ -24,7 +24,7 @@ public:
 
     QORIN_API_RESULT set_ui_program(QORIN_UI_PROGRAM_STATE state)
     {
-        if (!is_from_to(state, QORIN_UI_PROGRAM_STATE_UNDEFINED, QORIN_UI_PROGRAM_STATE_RUNTIME_ERROR))
+        if (!is_possible(state))
             return QORIN_API_RESULT_ERROR_CBOX_INVALID_IO_VALUE;
         ui_program_ = state;
         return QORIN_API_RESULT_OK;

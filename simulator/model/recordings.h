@@ -55,6 +55,7 @@ public:
     QORIN_API_RESULT end(std::uint32_t id);
     /// To be told of every change.
     void follow(const savrent::kinematics::joint_array& angles);
+    [[nodiscard]] bool is_running() const { return running_.has_value(); }
     /// True once after a recording has become as long as it can be.
     [[nodiscard]] bool take_time_out() { return std::exchange(timed_out_, false); }
 

@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include "simulator/model/value_checks.h"
-
 namespace cbox_simulator
 {
 namespace
@@ -14,7 +12,7 @@ QORIN_API_RESULT assign(auto& modules, std::uint32_t module, redundant_pair pair
 {
     if (module >= modules.size())
         return QORIN_API_RESULT_ERROR_CBOX_INVALID_IO_NUMBER;
-    if (!is_from_to(pair.function, static_cast<std::uint32_t>(first), static_cast<std::uint32_t>(last)))
+    if (pair.function < static_cast<std::uint32_t>(first) || pair.function > static_cast<std::uint32_t>(last))
         return QORIN_API_RESULT_ERROR_CBOX_INVALID_IO_VALUE;
     return modules[module].assign(pair);
 }

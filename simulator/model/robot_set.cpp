@@ -1,16 +1,13 @@
 #include "simulator/model/robot_set.h"
-
 namespace cbox_simulator
 {
 QORIN_API_RESULT robot_set::create(QORIN_ROBOT_MODEL model, std::uint32_t capacity, std::uint32_t& id)
 {
-    const auto* arm = savrent::kinematics::find_arm_model(model);
-    if (!arm)
-        return QORIN_API_RESULT_ROBOT_TYPE_NOT_MATCHED_WITH_CBOX;
+    const auto* arm = arms_.find(model);
     std::uint32_t free_id = 0;
     while (exists(free_id))
         ++free_id;
-    if (free_id >= robot_limit || free_id >= capacity)
+    if (!arm || free_id >= robot_limit || free_id >= capacity)
         return QORIN_API_RESULT_ERROR_ROBOT_CREATION_FAILURE;
     robots_[free_id].emplace(*arm);
     id = free_id;
@@ -33,15 +30,6 @@ const robot_state* robot_set::find(std::uint32_t id) const
 robot_state* robot_set::find(std::uint32_t id)
 {
     return id < robot_limit && robots_[id] ? &*robots_[id] : nullptr;
-}
-
-void robot_set::run_cycle(double seconds)
-{
-    for (auto& robot : robots_)
-    {
-        if (robot)
-            robot->run_cycle(seconds);
-    }
 }
 
 std::uint32_t robot_set::record_count() const

@@ -6,8 +6,10 @@
 #include <cstdint>
 #include <optional>
 
+#include "protocol/limits.h"
 #include "qorin/enumerations.h"
 #include "qorin/result.h"
+#include "simulator/kinematics/arm_catalogue.h"
 #include "simulator/model/robot_state.h"
 
 namespace cbox_simulator
@@ -21,11 +23,13 @@ namespace cbox_simulator
 class robot_set
 {
 public:
-    static constexpr std::size_t robot_limit = 2;
+    static constexpr std::size_t robot_limit = protocol::robot_limit;
 
-    /// The robot gets the lowest free id below the capacity, which is written to `id`. What is not one of our arms is
-    /// QORIN_API_RESULT_ROBOT_TYPE_NOT_MATCHED_WITH_CBOX: the simulated box drives nothing else. Without a free id
-    /// it is QORIN_API_RESULT_ERROR_ROBOT_CREATION_FAILURE.
+    explicit robot_set(const arm_catalogue& arms) : arms_(arms) {}
+
+    /// The robot gets the lowest free id below the capacity, which is written to `id`. What is not in the
+    /// catalogue and a robot without a free id are
+    /// QORIN_API_RESULT_ERROR_ROBOT_CREATION_FAILURE.
     QORIN_API_RESULT create(QORIN_ROBOT_MODEL model, std::uint32_t capacity, std::uint32_t& id);
     QORIN_API_RESULT destroy(std::uint32_t id);
     void destroy_all() { robots_ = {}; }
@@ -58,13 +62,14 @@ public:
         return change<&robot_state::set_servo>(id, value);
     }
 
-    QORIN_API_RESULT set_joint_chaser(std::uint32_t id, QORIN_SWITCH value)
+    /// Calls `use` with the id and the robot, in the order of the ids.
+    template <class Use>
+    void for_each(const Use& use)
     {
-        return change<&robot_state::set_joint_chaser>(id, value);
+        for (std::uint32_t id = 0; id < robot_limit; ++id)
+            if (auto* robot = find(id))
+                use(id, *robot);
     }
-
-    /// Lets a control cycle pass for all robots.
-    void run_cycle(double seconds);
 
 private:
     template <auto operation, class Value>
@@ -74,6 +79,7 @@ private:
         return robot ? (robot->*operation)(value) : QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID;
     }
 
+    const arm_catalogue& arms_;
     std::array<std::optional<robot_state>, robot_limit> robots_;
 };
 } // namespace cbox_simulator

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "kinematics/arm_models.h"
+#include "protocol/limits.h"
 #include "qorin/enumerations.h"
 #include "simulator/model/force_settings.h"
 
@@ -24,13 +25,6 @@ struct robot_switches
     QORIN_SWITCH motion_auto_adjustment = QORIN_SWITCH_OFF;
     QORIN_SWITCH safety_limit = QORIN_SWITCH_OFF;
     QORIN_SWITCH bounding_shape = QORIN_SWITCH_OFF;
-};
-
-/// Single timed targets from an application.
-struct external_move
-{
-    QORIN_SWITCH active = QORIN_SWITCH_OFF;
-    QORIN_SWITCH stop_mode = QORIN_SWITCH_ON;
 };
 
 /// Of velocity control, for each joint: degrees per second, and per second squared.
@@ -61,6 +55,7 @@ struct reduced_mode_limits
     double joint_speed = 30; ///< Degrees per second.
     std::array<double, 6> collision_joint_torque{25, 25, 25, 12, 12, 12};
     double collision_tcp_force = 75;
+    bool in_force = false;
 };
 
 struct payload
@@ -74,7 +69,6 @@ struct drive
 {
     std::string sw_version = "SIM.DRIVE.v1.0";
     double voltage = 48;     ///< Volts.
-    double current = 0;      ///< Amperes.
     double temperature = 30; ///< Degrees Celsius.
     std::array<std::uint16_t, 4> error_code{};
     double velocity_feedforward_ratio = 1;
@@ -85,7 +79,7 @@ struct drive
 /// The I/O module at the robot's flange. Bit n of a word is channel n.
 struct tool_module
 {
-    static constexpr std::uint32_t digital_channels = 4;
+    static constexpr std::uint32_t digital_channels = protocol::tool_digital_channels;
 
     std::string hw_name = "SIM.TOOL";
     std::string hw_version = "SIM.TOOL.HW.v1.0";
@@ -96,7 +90,6 @@ struct tool_module
     std::array<double, 2> analog_input{};
     std::array<double, 2> analog_output{};
     QORIN_TOOL_IO_POWER_VOLTAGE_OPTION power_voltage = QORIN_TOOL_POWER_VOLTAGE_OPTION_0;
-    double power_current = 0;
     std::array<std::uint32_t, 3> led_color{};
 };
 
@@ -118,9 +111,10 @@ struct robot_settings
     force_control force;
     force_torque_sensor ft_sensor;
     external_force_torque external_ft;
-    external_move ext_move;
+    cbox_simulator::touch touch;
     QORIN_CONVEYOR_MODE conveyor_mode = QORIN_CONVEYOR_MODE_OFF;
     std::array<double, 6> conveyor_start_offset{};
+    double belt_speed = 0; ///< As the encoder in use tells it in each cycle: millimetres per second.
     std::array<drive, savrent::kinematics::joint_count> drives;
     tool_module tool;
 };

@@ -3,8 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "simulator/model/moving_state.h"
-#include "simulator/model/value_checks.h"
+#include "simulator/model/possible_values.h"
 
 namespace cbox_simulator
 {
@@ -13,13 +12,15 @@ namespace
 using savrent::kinematics::joint_array;
 using savrent::kinematics::joint_range;
 
-constexpr double chase_time = 0.02;       // seconds in which all but 1/e of a way is covered
-constexpr double arrival_distance = 1e-9; // degrees
+constexpr double arrival_distance = 1e-7;  // degrees
+constexpr double most_following_error = 5; // degrees
 
 /// Upper arm upright and forearm level on every arm, whatever its angles are counted from.
-joint_array ready_angles(QORIN_ROBOT_MODEL model)
+joint_array ready_angles(const savrent::kinematics::arm_model& arm)
 {
-    switch (model)
+    if (savrent::kinematics::find_arm_model(arm.model) == nullptr || arm.joints.back().angle_max == 0)
+        return {};
+    switch (arm.model)
     {
     case QORIN_ROBOT_MODEL_ARM_G:
     case QORIN_ROBOT_MODEL_ARM_I:
@@ -41,37 +42,59 @@ bool is_within(double angle, const joint_range& range)
 }
 } // namespace
 
-robot_state::robot_state(const savrent::kinematics::arm_model& arm) : arm_(&arm), solver_(arm.table)
+robot_state::robot_state(const savrent::kinematics::arm_model& arm, const arm_kinematics& kinematics)
+    : arm_(&arm), kinematics_(kinematics), load_(arm, kinematics.table())
 {
     settings_.safety_joints = arm.joints;
-    actual_.joints = ready_angles(arm.model);
-    follow_joints(actual_);
-    stand_still();
+    put_at(ready_angles(arm));
+}
+
+joint_range robot_state::range_of(std::size_t joint) const
+{
+    auto range = arm_->joints[joint];
+    const auto& safety = settings_.safety_joints[joint];
+    range.angle_min = std::max(range.angle_min, safety.angle_min);
+    range.angle_max = std::min(range.angle_max, safety.angle_max);
+    range.speed_max = std::min(range.speed_max, safety.speed_max);
+    range.acceleration_max = std::min(range.acceleration_max, safety.acceleration_max);
+    return range;
+}
+
+motion::joint_bounds robot_state::bounds() const
+{
+    motion::joint_bounds bounds;
+    for (std::size_t joint = 0; joint < bounds.size(); ++joint)
+    {
+        const auto range = range_of(joint);
+        bounds[joint] = {range.angle_min, range.angle_max, range.speed_max, range.acceleration_max};
+    }
+    return bounds;
 }
 
 bool robot_state::can_stand_at(const joint_array& angles) const
 {
-    return std::ranges::equal(angles, arm_->joints, is_within);
+    for (std::size_t joint = 0; joint < angles.size(); ++joint)
+        if (!is_within(angles[joint], range_of(joint)))
+            return false;
+    return true;
 }
 
 pose robot_state::flange_pose_at(const joint_array& angles) const
 {
-    const auto [position, orientation] = solver_.forward(angles);
+    const auto [position, orientation] = kinematics_.forward(angles);
     return {position[0], position[1], position[2], orientation[0], orientation[1], orientation[2]};
 }
 
 std::optional<joint_array> robot_state::joints_at(const pose& flange, const joint_array& reference) const
 {
-    return solver_.inverse({{flange[0], flange[1], flange[2]}, {flange[3], flange[4], flange[5]}}, reference);
+    return kinematics_.inverse({{flange[0], flange[1], flange[2]}, {flange[3], flange[4], flange[5]}}, reference);
 }
 
 QORIN_API_RESULT robot_state::set_joint_angles(const joint_array& angles)
 {
     if (!can_stand_at(angles))
         return QORIN_API_RESULT_ERROR_ROBOT_JOINT_PARAM_OUT_OF_RANGE;
-    actual_.joints = angles;
-    follow_joints(actual_);
-    stand_still();
+    put_at(angles);
     recordings_.follow(angles);
     return QORIN_API_RESULT_OK;
 }
@@ -91,7 +114,8 @@ QORIN_API_RESULT robot_state::set_table(const dh_table& table)
     // Finite lengths can still add up to more than a number holds.
     if (!describes_an_arm(table) || !std::isfinite(total_length(table)))
         return QORIN_API_RESULT_ERROR_ROBOT_PARAM_OUT_OF_RANGE;
-    solver_ = savrent::kinematics::arm_solver(table);
+    kinematics_ = kinematics_.with_table(table);
+    load_ = motion::arm_load(*arm_, kinematics_.table());
     follow_joints(actual_);
     follow_joints(commanded_);
     return QORIN_API_RESULT_OK;
@@ -99,7 +123,7 @@ QORIN_API_RESULT robot_state::set_table(const dh_table& table)
 
 QORIN_API_RESULT robot_state::set_servo(QORIN_SWITCH value)
 {
-    if (!is_switch(value))
+    if (!is_possible(value))
         return QORIN_API_RESULT_ERROR_ROBOT_PARAM_OUT_OF_RANGE;
     settings_.switches.servo = value;
     return QORIN_API_RESULT_OK;
@@ -122,87 +146,62 @@ QORIN_API_RESULT robot_state::set_payload(const payload& carried)
     return QORIN_API_RESULT_OK;
 }
 
-void robot_state::run_cycle(double seconds)
+void robot_state::switch_streams_off()
 {
-    take_profiler_point();
-    run_after_stream(seconds);
+    settings_.switches.joint_chaser = QORIN_SWITCH_OFF;
+    profiler_.set_active(QORIN_SWITCH_OFF);
+    ext_move_.set_active(QORIN_SWITCH_OFF);
+    settings_.targets.velocity = {};
+    settings_.force.active = QORIN_SWITCH_OFF;
+    settings_.conveyor_mode = QORIN_CONVEYOR_MODE_OFF;
 }
 
-void robot_state::take_profiler_point()
+void robot_state::command(const stance& next, double seconds)
 {
-    const auto point = profiler_.take_due_point();
-    if (!point || settings_.switches.servo != QORIN_SWITCH_ON)
-        return;
-    if (point->form == profiler_point::kind::joints)
-    {
-        set_joint_angles(point->values);
-        return;
-    }
-    pose flange = point->values;
-    if (profiler_.pose_type() == QORIN_POSE_TYPE_TCP)
-        flange = outer_of(flange, tcp_from_flange_);
-    if (const auto joints = joints_at(flange, actual_.joints))
-        set_joint_angles(*joints);
-}
-
-QORIN_API_RESULT robot_state::set_joint_chaser(QORIN_SWITCH value)
-{
-    if (!is_switch(value))
-        return QORIN_API_RESULT_ERROR_ROBOT_PARAM_OUT_OF_RANGE;
-    if (value == QORIN_SWITCH_ON && !is_at_rest(moving_state_))
-        return QORIN_API_RESULT_ROBOT_IS_MOVING_STATE;
-    settings_.switches.joint_chaser = value;
-    stand_still();
-    return QORIN_API_RESULT_OK;
-}
-
-bool robot_state::chase(const joint_array& targets)
-{
-    if (!chases() || !std::ranges::all_of(targets, [](double target) { return std::isfinite(target); }))
-        return false;
-    for (std::size_t joint = 0; joint < targets.size(); ++joint)
-    {
-        const auto& range = arm_->joints[joint];
-        commanded_.joints[joint] = std::clamp(targets[joint], range.angle_min, range.angle_max);
-    }
-    follow_joints(commanded_);
-    return true;
-}
-
-bool robot_state::stop_chasing()
-{
-    if (!chases())
-        return false;
-    stand_still();
-    return true;
-}
-
-void robot_state::run_after_stream(double seconds)
-{
-    if (!chases())
-        return;
-    const double share = 1 - std::exp(-seconds / chase_time);
-    bool moves = false;
-    for (std::size_t joint = 0; joint < joint_speeds_.size(); ++joint)
-    {
-        const double way = commanded_.joints[joint] - actual_.joints[joint];
-        const double longest = settings_.safety_joints[joint].speed_max * seconds;
-        const double wanted = std::abs(way) < arrival_distance ? way : way * share;
-        const double step = std::min(std::abs(wanted), longest);
-        actual_.joints[joint] += std::copysign(step, way);
-        joint_speeds_[joint] = std::copysign(step, way) / seconds;
-        moves = moves || step != 0;
-    }
-    if (!moves)
-        return;
-    follow_joints(actual_);
+    const bool stands = next.joints == commanded_.joints;
+    commanded_ = next;
+    drives_.follow(next.joints, seconds);
+    if (stands && drives_.following_error() < arrival_distance)
+        drives_.stand_at(next.joints);
+    actual_ = moved(actual_, drives_.actual(), seconds);
     recordings_.follow(actual_.joints);
 }
 
-void robot_state::stand_still()
+std::optional<std::size_t> robot_state::joint_left_behind() const
 {
+    for (std::size_t joint = 0; joint < joint_count(); ++joint)
+        if (std::abs(commanded_.joints[joint] - actual_.joints[joint]) > most_following_error)
+            return joint;
+    return {};
+}
+
+void robot_state::put_at(const joint_array& angles)
+{
+    drives_.stand_at(angles);
+    actual_.joints = angles;
+    actual_.rest();
+    follow_joints(actual_);
     commanded_ = actual_;
-    joint_speeds_ = {};
+}
+
+stance robot_state::moved(const stance& before, const joint_array& joints, double seconds) const
+{
+    if (joints == before.joints && before.rests())
+        return before;
+    stance after;
+    after.joints = joints;
+    follow_joints(after);
+    for (std::size_t joint = 0; joint < joints.size(); ++joint)
+    {
+        after.speeds[joint] = (joints[joint] - before.joints[joint]) / seconds;
+        after.accelerations[joint] = (after.speeds[joint] - before.speeds[joint]) / seconds;
+    }
+    for (std::size_t axis = 0; axis < after.tcp_velocity.size(); ++axis)
+        after.tcp_velocity[axis] = (after.tcp[axis] - before.tcp[axis]) / seconds;
+    const auto turn = turn_from_to(before.tcp, after.tcp);
+    for (std::size_t axis = 0; axis < turn.size(); ++axis)
+        after.tcp_turning[axis] = turn[axis] / seconds;
+    return after;
 }
 
 void robot_state::follow_joints(stance& which) const

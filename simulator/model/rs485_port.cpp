@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
-#include "simulator/model/value_checks.h"
+#include "simulator/model/possible_values.h"
 
 namespace cbox_simulator
 {
@@ -11,11 +11,8 @@ QORIN_API_RESULT rs485_port::set_rs485(QORIN_RS485_SERIAL_INTERFACE serial_inter
                                        QORIN_RS485_DATA_FRAME data_frame, QORIN_RS485_PROTOCOL protocol,
                                        QORIN_SWITCH setup_switch, std::int32_t count)
 {
-    if (!is_from_to(serial_interface, QORIN_RS485_SERIAL_INTERFACE_UNDEFINED, QORIN_RS485_120OHM) ||
-        !is_from_to(baudrate, QORIN_RS485_BAUDRATE_UNDEFINED, QORIN_RS485_BAUDRATE_1000000) ||
-        !is_from_to(data_frame, QORIN_RS485_DATA_FRAME_UNDEFINED, QORIN_RS485_DATA_FRAME_8O2) ||
-        !is_from_to(protocol, QORIN_RS485_PROTOCOL_UNDEFINED, QORIN_RS485_PROTOCOL_MODBUS_ASCII) ||
-        !is_switch(setup_switch))
+    if (!is_possible(serial_interface) || !is_possible(baudrate) || !is_possible(data_frame) ||
+        !is_possible(protocol) || !is_possible(setup_switch))
         return QORIN_API_RESULT_ERROR_ROBOT_INVALID_IO_VALUE;
     setup_ = {serial_interface, baudrate, data_frame, protocol, setup_switch, count};
     return QORIN_API_RESULT_OK;

@@ -5,7 +5,8 @@
 #include <string>
 #include <string_view>
 
-#include "simulator/model/value_checks.h"
+#include "simulator/model/io_channels.h"
+#include "simulator/model/possible_values.h"
 
 namespace cbox_simulator
 {
@@ -24,9 +25,15 @@ public:
         return set_channel(redundant_word_, {8, 8}, input, value);
     }
 
+    /// Outputs 0 to 7, at bit n of the word, which no reader interprets.
+    QORIN_API_RESULT set_safety_output(std::uint32_t output, std::uint32_t value)
+    {
+        return set_channel(redundant_word_, {8}, output, value);
+    }
+
     QORIN_API_RESULT set_smps_48v_switch(QORIN_SWITCH value)
     {
-        if (!is_switch(value))
+        if (!is_possible(value))
             return QORIN_API_RESULT_ERROR_CBOX_INVALID_IO_VALUE;
         smps_48v_switch_ = value;
         return QORIN_API_RESULT_OK;

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "protocol/limits.h"
 #include "qorin/result.h"
 
 namespace cbox_simulator
@@ -26,7 +27,7 @@ struct plane
 class safety_planes
 {
 public:
-    static constexpr std::size_t capacity = 10;
+    static constexpr std::size_t capacity = protocol::safety_plane_limit;
 
     /// The plane gets the lowest free id, which is written to `id`. Without one it is
     /// QORIN_API_RESULT_ERROR_ROBOT_WORK_SPACE_IS_FULL.

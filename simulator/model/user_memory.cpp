@@ -1,13 +1,13 @@
 #include "simulator/model/user_memory.h"
 
-#include "simulator/model/value_checks.h"
+#include "simulator/model/possible_values.h"
 
 namespace cbox_simulator
 {
 QORIN_API_RESULT user_memory::set(std::string_view name, const user_value& value)
 {
-    if (!is_from_to(value.type, QORIN_USER_DATA_TYPE_INT, QORIN_USER_DATA_TYPE_LONGLONG))
-        return QORIN_API_RESULT_ERROR_ROBOT_PARAM_OUT_OF_RANGE;
+    if (!is_possible(value.type))
+        return QORIN_API_RESULT_ERROR_NO_SUPPORT;
     if (values_.size() == capacity && !find(name))
         return QORIN_API_RESULT_ERROR_KEY_MAX_MEMORY;
     values_[std::string(name)] = value;

@@ -36,13 +36,14 @@ public:
     static constexpr std::size_t capacity = 256; ///< names
 
     /// Replaces what the name had. One name too many is QORIN_API_RESULT_ERROR_KEY_MAX_MEMORY, what is no type of a
-    /// value is QORIN_API_RESULT_ERROR_ROBOT_PARAM_OUT_OF_RANGE.
+    /// value is QORIN_API_RESULT_ERROR_NO_SUPPORT.
     QORIN_API_RESULT set(std::string_view name, const user_value& value);
     QORIN_API_RESULT remove(std::string_view name);
     QORIN_API_RESULT clear();
 
     /// Null when the name is not there.
     [[nodiscard]] const user_value* find(std::string_view name) const;
+    [[nodiscard]] const std::map<std::string, user_value, std::less<>>& all() const { return values_; }
 
 private:
     std::map<std::string, user_value, std::less<>> values_;
