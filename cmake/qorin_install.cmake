@@ -12,11 +12,14 @@ cmake_path(RELATIVE_PATH CMAKE_INSTALL_PREFIX BASE_DIRECTORY ${CMAKE_INSTALL_PRE
 install(TARGETS qorin_api_rpc_client EXPORT qorin_api_rpc_client
         LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development)
 install(TARGETS qorin_kinematics_arm LIBRARY DESTINATION ${qorin_kinematics_directory} COMPONENT runtime)
-foreach(program qorin_cbox_sim qorin_log)
+foreach(program qorin_cbox_sim qorin)
   if(TARGET ${program})
     install(TARGETS ${program} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT runtime)
   endif()
 endforeach()
+if(TARGET qorin)
+  install(FILES ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/qorin_log DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT runtime)
+endif()
 configure_file(cmake/config.ini.in ${PROJECT_BINARY_DIR}/share/config.ini @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/share/config.ini DESTINATION ${qorin_data_directory} COMPONENT runtime)
 
@@ -24,9 +27,10 @@ install(DIRECTORY include/qorin DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONEN
         FILES_MATCHING PATTERN "*.h")
 install(DIRECTORY savrent/cc/math DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/savrent/cc COMPONENT development
         FILES_MATCHING PATTERN "*.h")
-install(FILES kinematics/savrent_kinematics.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/qorin COMPONENT development)
 install(FILES README.md CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development)
-install(DIRECTORY docs DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development FILES_MATCHING PATTERN "*.md")
+install(DIRECTORY examples DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development)
+install(DIRECTORY docs DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development
+        FILES_MATCHING PATTERN "*.md" PATTERN "*.png")
 
 configure_package_config_file(cmake/qorin_api_rpc_client-config.cmake.in
                               ${PROJECT_BINARY_DIR}/share/qorin_api_rpc_client-config.cmake
