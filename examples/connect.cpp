@@ -7,16 +7,12 @@
 #include <chrono>
 #include <csignal>
 #include <cstdio>
-#include <cstdlib>
 #include <thread>
 
-#include <qorin/qorin_api_rpc_client.h>
+#include "session.h"
 
 namespace
 {
-/// A command reads 128 bytes from a text, so a text lives in a buffer of that size.
-const char system_text[128] = "connect example";
-
 bool report(const char* step, QORIN_API_RESULT result)
 {
     std::printf("%-16s %u %s\n", step, static_cast<unsigned int>(result), qorin_system_api_result_string_get(result));
@@ -24,7 +20,7 @@ bool report(const char* step, QORIN_API_RESULT result)
 }
 
 /// Control that is given back whichever way the program goes on.
-bool work_with_control(unsigned int cbox_id, int hold_seconds)
+bool work_with_control(unsigned int cbox_id, double hold_seconds)
 {
     if (!report("take control", qorin_rpc_system_control_take(cbox_id)))
         return false;
@@ -34,18 +30,15 @@ bool work_with_control(unsigned int cbox_id, int hold_seconds)
     report("controllable", qorin_rpc_system_controllable_get(cbox_id, controllable));
     std::printf("%-16s %s\n", "", controllable[0] == QORIN_SWITCH_ON ? "this program commands" : "it may not command");
     std::fflush(stdout);
-    std::this_thread::sleep_for(std::chrono::seconds(hold_seconds));
+    std::this_thread::sleep_for(std::chrono::duration<double>(hold_seconds));
     return report("release control", qorin_rpc_system_control_release(cbox_id));
 }
 } // namespace
 
 int main(int argc, char** argv)
 {
-    if (argc < 3)
-    {
-        std::fprintf(stderr, "usage: connect ADDRESS CONFIG [HOLD_SECONDS]\n");
-        return 1;
-    }
+    example::take_arguments(argc, argv, 1, "connect ADDRESS CONFIG [HOLD_SECONDS]");
+    const double hold_seconds = argc > 3 ? example::number(argv[3]) : 0;
     std::signal(SIGPIPE, SIG_IGN); // a lost link shall be a result, not the end of the program
 
     unsigned int cbox_id = 0;
@@ -56,9 +49,9 @@ int main(int argc, char** argv)
     std::printf("%-16s %s\n", "library", qorin_rpc_system_api_version_get(cbox_id));
     std::printf("%-16s %s\n", "control box", qorin_rpc_system_control_sw_version_get(cbox_id));
 
-    const QORIN_API_RESULT created = qorin_rpc_gen_system_create(cbox_id, system_text, QORIN_CBOX_MODEL_3GEN_SIM);
+    const QORIN_API_RESULT created = qorin_rpc_gen_system_create(cbox_id, example::text, QORIN_CBOX_MODEL_3GEN_SIM);
     report("create system", created);
     if (created != QORIN_API_RESULT_OK && created != QORIN_API_RESULT_WARNING_SYSTEM_ALREADY_CREATED)
         return 1;
-    return work_with_control(cbox_id, argc > 3 ? std::atoi(argv[3]) : 0) ? 0 : 1;
+    return work_with_control(cbox_id, hold_seconds) ? 0 : 1;
 }

@@ -7,7 +7,7 @@
 // moves.
 
 #include <cstdio>
-#include <cstdlib>
+#include <optional>
 
 #include "session.h"
 
@@ -26,21 +26,22 @@ struct pose
     double orientation[3];
 };
 
-bool find_target(unsigned int cbox_id, unsigned int robot_id, char** numbers, pose& target)
+pose pose_of(char** numbers)
 {
-    if (numbers == nullptr)
-    {
-        const double joints[joint_count] = {35, 10, 75, -20, 50, 15};
-        return is_ok("target",
-                     qorin_rpc_robot_util_joint_angle_to_pose_convert(cbox_id, robot_id, QORIN_POSE_TYPE_FLANGE, joints,
-                                                                      target.position, target.orientation));
-    }
+    pose target = {};
     for (int i = 0; i < 3; ++i)
     {
-        target.position[i] = std::strtod(numbers[i], nullptr);
-        target.orientation[i] = std::strtod(numbers[i + 3], nullptr);
+        target.position[i] = example::number(numbers[i], -1e9);
+        target.orientation[i] = example::number(numbers[i + 3], -1e9);
     }
-    return true;
+    return target;
+}
+
+bool find_reachable_pose(unsigned int cbox_id, unsigned int robot_id, pose& target)
+{
+    const double joints[joint_count] = {35, 10, 75, -20, 50, 15};
+    return is_ok("target", qorin_rpc_robot_util_joint_angle_to_pose_convert(
+                               cbox_id, robot_id, QORIN_POSE_TYPE_FLANGE, joints, target.position, target.orientation));
 }
 
 void print_joints(const char* name, const double* joints)
@@ -84,10 +85,10 @@ bool approach(unsigned int cbox_id, unsigned int robot_id, const pose& target)
     return true;
 }
 
-bool solve(unsigned int cbox_id, unsigned int robot_id, char** numbers)
+bool solve(unsigned int cbox_id, unsigned int robot_id, const std::optional<pose>& wanted)
 {
-    pose target = {};
-    if (!find_target(cbox_id, robot_id, numbers, target))
+    pose target = wanted.value_or(pose{});
+    if (!wanted && !find_reachable_pose(cbox_id, robot_id, target))
         return false;
     std::printf("flange at %.3f %.3f %.3f, orientation %.3f %.3f %.3f\n\n", target.position[0], target.position[1],
                 target.position[2], target.orientation[0], target.orientation[1], target.orientation[2]);
@@ -97,11 +98,9 @@ bool solve(unsigned int cbox_id, unsigned int robot_id, char** numbers)
 
 int main(int argc, char** argv)
 {
-    if (argc != 3 && argc != 9)
-    {
-        std::fprintf(stderr, "usage: inverse_kinematics ADDRESS CONFIG [X Y Z RX RY RZ]\n");
-        return 1;
-    }
+    // Six numbers or none: with some of them it is as if there were too many.
+    example::take_arguments(argc, argv, argc == 9 ? 6 : 0, "inverse_kinematics ADDRESS CONFIG [X Y Z RX RY RZ]");
+    const std::optional<pose> wanted = argc == 9 ? std::optional(pose_of(argv + 3)) : std::nullopt;
 
     unsigned int cbox_id = 0;
     unsigned int robot_id = 0;
@@ -109,7 +108,7 @@ int main(int argc, char** argv)
         !example::create_robot(cbox_id, QORIN_ROBOT_MODEL_ARM_C, robot_id))
         return 1;
 
-    const bool solved = solve(cbox_id, robot_id, argc == 9 ? argv + 3 : nullptr);
+    const bool solved = solve(cbox_id, robot_id, wanted);
     const bool ended = example::destroy_robot(cbox_id, robot_id);
     return example::close_session(cbox_id) && ended && solved ? 0 : 1;
 }

@@ -73,11 +73,7 @@ bool set_analog_output(unsigned int cbox_id)
 
 int main(int argc, char** argv)
 {
-    if (argc != 3)
-    {
-        std::fprintf(stderr, "usage: io ADDRESS CONFIG\n");
-        return 1;
-    }
+    example::take_arguments(argc, argv, 0, "io ADDRESS CONFIG");
     unsigned int cbox_id = 0;
     if (!example::open_session(argv[1], argv[2], cbox_id))
         return 1;

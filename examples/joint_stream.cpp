@@ -9,7 +9,6 @@
 #include <chrono>
 #include <cmath>
 #include <cstdio>
-#include <cstdlib>
 #include <numbers>
 #include <thread>
 
@@ -21,7 +20,7 @@ using example::is_ok;
 
 constexpr auto period = std::chrono::milliseconds(4);
 constexpr double amplitude = 10.0;       // degrees
-constexpr double seconds_per_wave = 2.0; // the joint's highest speed is then 31 degrees per second
+constexpr double seconds_per_wave = 4.0; // the joint's highest speed is then 16 degrees per second
 constexpr double tolerated_error = 5.0;  // degrees
 constexpr double needed_share = 0.9;     // a busy machine delivers a target late now and then
 
@@ -60,10 +59,11 @@ bool stream_sine(unsigned int cbox_id, unsigned int robot_id, double seconds, st
     return true;
 }
 
-/// The stream, with the chaser switched on before and off after it. Its address comes ahead of all that.
+/// The stream, with the chaser switched on before and off after it, under power. Its address comes ahead of all that.
 bool chase(unsigned int cbox_id, unsigned int robot_id, const char* address, double seconds, stream_report& report)
 {
-    if (!is_ok("set address", qorin_rpc_robot_joint_chaser_ip_set(cbox_id, robot_id, address)) ||
+    if (!is_ok("servo on", qorin_rpc_robot_servo_switch_set(cbox_id, robot_id, QORIN_SWITCH_ON)) ||
+        !is_ok("set address", qorin_rpc_robot_joint_chaser_ip_set(cbox_id, robot_id, address)) ||
         !is_ok("chaser on", qorin_rpc_robot_joint_chaser_switch_set(cbox_id, robot_id, QORIN_SWITCH_ON)))
         return false;
     const bool streamed = stream_sine(cbox_id, robot_id, seconds, report);
@@ -74,14 +74,9 @@ bool chase(unsigned int cbox_id, unsigned int robot_id, const char* address, dou
 
 int main(int argc, char** argv)
 {
-    if (argc < 3)
-    {
-        std::fprintf(stderr, "usage: joint_stream ADDRESS CONFIG [SECONDS [MODEL]]\n");
-        return 1;
-    }
-    const double seconds = argc > 3 ? std::atof(argv[3]) : 3.0;
-    const auto model =
-        argc > 4 ? static_cast<QORIN_ROBOT_MODEL>(std::strtoul(argv[4], nullptr, 10)) : QORIN_ROBOT_MODEL_ARM_C;
+    example::take_arguments(argc, argv, 2, "joint_stream ADDRESS CONFIG [SECONDS [MODEL]]");
+    const double seconds = argc > 3 ? example::number(argv[3]) : 3.0;
+    const QORIN_ROBOT_MODEL model = argc > 4 ? example::robot_model(argv[4]) : QORIN_ROBOT_MODEL_ARM_C;
 
     unsigned int cbox_id = 0;
     unsigned int robot_id = 0;

@@ -6,7 +6,6 @@
 // directory of the kinematics modules.
 
 #include <cstdio>
-#include <cstdlib>
 
 #include "session.h"
 
@@ -91,13 +90,8 @@ void print_tool(unsigned int cbox_id, unsigned int robot_id)
 
 int main(int argc, char** argv)
 {
-    if (argc < 3)
-    {
-        std::fprintf(stderr, "usage: robot_status ADDRESS CONFIG [MODEL]\n");
-        return 1;
-    }
-    const auto model =
-        argc > 3 ? static_cast<QORIN_ROBOT_MODEL>(std::strtoul(argv[3], nullptr, 10)) : QORIN_ROBOT_MODEL_ARM_C;
+    example::take_arguments(argc, argv, 1, "robot_status ADDRESS CONFIG [MODEL]");
+    const QORIN_ROBOT_MODEL model = argc > 3 ? example::robot_model(argv[3]) : QORIN_ROBOT_MODEL_ARM_C;
 
     unsigned int cbox_id = 0;
     unsigned int robot_id = 0;

@@ -67,11 +67,7 @@ bool remove_limits(unsigned int cbox_id, unsigned int robot_id)
 
 int main(int argc, char** argv)
 {
-    if (argc != 3)
-    {
-        std::fprintf(stderr, "usage: safety_limits ADDRESS CONFIG\n");
-        return 1;
-    }
+    example::take_arguments(argc, argv, 0, "safety_limits ADDRESS CONFIG");
     unsigned int cbox_id = 0;
     unsigned int robot_id = 0;
     if (!example::open_session(argv[1], argv[2], cbox_id) ||

@@ -4,15 +4,48 @@
 #include <chrono>
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <string_view>
 #include <thread>
 
 #include <qorin/qorin_api_rpc_client.h>
 
-/// What the examples have in common: a connection with a system and the control, and a robot.
+/// What the examples have in common: their arguments, a connection with a system and the control, and a robot.
 namespace example
 {
 /// Commands read 128 bytes from each text, array and output, so these stand in buffers of that size.
 inline const char text[128] = "example";
+
+/// Goes on only with an address, a configuration and up to so many arguments more. Answers `--version` and `--help`.
+inline void take_arguments(int argc, char** argv, int further, const char* usage)
+{
+    const std::string_view first = argc == 2 ? argv[1] : "";
+    if (first == "--version")
+        std::printf("%s\n", qorin_system_api_version_get());
+    else if (first == "--help")
+        std::printf("usage: %s\n", usage);
+    else if (argc < 3 || argc > 3 + further)
+        std::fprintf(stderr, "usage: %s\n", usage);
+    else
+        return;
+    std::exit(first.starts_with("--") ? 0 : 1);
+}
+
+inline double number(const char* argument, double least = 0)
+{
+    char* end = nullptr;
+    const double value = std::strtod(argument, &end);
+    if (end != argument && *end == '\0' && value >= least && value < 1e9)
+        return value;
+    std::fprintf(stderr, "not a number from %g on: %s\n", least, argument);
+    std::exit(1);
+}
+
+inline QORIN_ROBOT_MODEL robot_model(const char* argument)
+{
+    return static_cast<QORIN_ROBOT_MODEL>(number(argument));
+}
 
 /// Prints what is not OK, with the name of the step that it happened in.
 inline bool is_ok(const char* step, QORIN_API_RESULT result)
@@ -23,10 +56,10 @@ inline bool is_ok(const char* step, QORIN_API_RESULT result)
     return result == QORIN_API_RESULT_OK;
 }
 
-/// Lets a few status frames arrive, so that getters tell what the last command has set.
+/// Lets a few status frames arrive, so that getters tell what the last command has set or the last event has told.
 inline void wait_for_frames()
 {
-    std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    std::this_thread::sleep_for(std::chrono::milliseconds(100));
 }
 
 /// Connects, makes the system unless it stands, and takes the control.
@@ -45,10 +78,15 @@ inline bool close_session(unsigned int cbox_id)
     return is_ok("release control", qorin_rpc_system_control_release(cbox_id));
 }
 
+/// A program that was killed leaves its robot on the control box, where there is room for no other: it goes first.
 inline bool create_robot(unsigned int cbox_id, QORIN_ROBOT_MODEL model, unsigned int& robot_id)
 {
     unsigned int id[32] = {};
-    if (!is_ok("create robot", qorin_rpc_robot_create(cbox_id, model, text, 0, id)))
+    QORIN_API_RESULT created = qorin_rpc_robot_create(cbox_id, model, text, 0, id);
+    if (created == QORIN_API_RESULT_ERROR_ROBOT_CREATION_FAILURE &&
+        is_ok("destroy the robot that stands", qorin_rpc_robot_destroy(cbox_id, 0)))
+        created = qorin_rpc_robot_create(cbox_id, model, text, 0, id);
+    if (!is_ok("create robot", created))
         return false;
     robot_id = id[0];
     wait_for_frames();

@@ -8,7 +8,6 @@
 #include <chrono>
 #include <csignal>
 #include <cstdio>
-#include <cstdlib>
 #include <deque>
 #include <mutex>
 #include <string>
@@ -16,7 +15,7 @@
 
 #include <unistd.h>
 
-#include <qorin/qorin_api_rpc_client.h>
+#include "session.h"
 
 namespace
 {
@@ -121,12 +120,12 @@ void print_pending_events()
         std::printf("%s\n", g_lines.front().c_str());
 }
 
-void watch(unsigned int cbox_id, std::chrono::seconds duration)
+void watch(unsigned int cbox_id, std::chrono::duration<double> time)
 {
     const bool on_screen = isatty(STDOUT_FILENO) != 0;
-    const auto end = std::chrono::steady_clock::now() + duration;
+    const auto begin = std::chrono::steady_clock::now();
     bool table_stands = false;
-    while (!g_stop && std::chrono::steady_clock::now() < end)
+    while (!g_stop && std::chrono::steady_clock::now() - begin < time)
     {
         if (table_stands)
             std::printf("\033[%dA\033[J", table_lines); // back to the table's first line, and clear it
@@ -146,11 +145,8 @@ void watch(unsigned int cbox_id, std::chrono::seconds duration)
 
 int main(int argc, char** argv)
 {
-    if (argc < 3)
-    {
-        std::fprintf(stderr, "usage: watch ADDRESS CONFIG [SECONDS]\n");
-        return 1;
-    }
+    example::take_arguments(argc, argv, 1, "watch ADDRESS CONFIG [SECONDS]");
+    const std::chrono::duration<double> time(argc > 3 ? example::number(argv[3]) : 86400.0);
     std::signal(SIGPIPE, SIG_IGN);
     std::signal(SIGINT, request_stop);
     std::signal(SIGTERM, request_stop);
@@ -163,7 +159,7 @@ int main(int argc, char** argv)
         return 1;
     }
     qorin_rpc_system_event_callback_add(cbox_id, on_event);
-    watch(cbox_id, argc > 3 ? std::chrono::seconds(std::atoi(argv[3])) : std::chrono::seconds(24h));
+    watch(cbox_id, time);
     qorin_rpc_system_event_callback_remove(cbox_id, on_event);
     return 0;
 }

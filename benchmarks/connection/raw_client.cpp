@@ -8,9 +8,6 @@
 #include <netinet/tcp.h>
 #include <sys/socket.h>
 #include <unistd.h>
-
-#include "protocol/status_frame.h"
-
 namespace benchmark_support
 {
 namespace
@@ -33,15 +30,14 @@ int connected_link(const std::string& address)
 }
 } // namespace
 
-raw_client::raw_client(const std::string& address)
+raw_client::raw_client(const std::string& address, std::function<void(const protocol::shared_data_t&)> on_frame)
     : command_(connected_link(address)), data_(connected_link(address)), event_(connected_link(address)),
       receiver_(
-          [this]
+          [this, on_frame = std::move(on_frame)]
           {
               auto frame = std::make_unique<protocol::shared_data_t>();
               while (recv(data_, frame.get(), sizeof(*frame), MSG_WAITALL) > 0)
-              {
-              }
+                  on_frame(*frame);
           })
 {
 }

@@ -1,11 +1,13 @@
 #ifndef BENCHMARKS_CONNECTION_RAW_CLIENT_H
 #define BENCHMARKS_CONNECTION_RAW_CLIENT_H
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <thread>
 
 #include "protocol/rpc_record.h"
+#include "protocol/status_frame.h"
 
 namespace benchmark_support
 {
@@ -13,7 +15,9 @@ namespace benchmark_support
 class raw_client
 {
 public:
-    explicit raw_client(const std::string& address);
+    /// @param on_frame  called on the receiving thread
+    explicit raw_client(
+        const std::string& address, std::function<void(const protocol::shared_data_t&)> on_frame = [](const auto&) {});
     ~raw_client();
     raw_client(const raw_client&) = delete;
     raw_client& operator=(const raw_client&) = delete;

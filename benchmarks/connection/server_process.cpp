@@ -16,7 +16,8 @@ namespace benchmark_support
 {
 namespace
 {
-[[noreturn]] void serve(const std::string& address, double rate, int ready)
+[[noreturn]] void serve(const std::string& address, double rate,
+                        const std::function<void(cbox_simulator::control_box&)>& life, int ready)
 {
     prctl(PR_SET_PDEATHSIG, SIGKILL);
     cbox_simulator::control_box_options options;
@@ -35,19 +36,21 @@ namespace
     const char go = 'g';
     if (write(ready, &go, 1) != 1)
         _exit(1);
+    life(box);
     while (true)
         pause();
 }
 } // namespace
 
-server_process::server_process(const std::string& address, double rate)
+server_process::server_process(const std::string& address, double rate,
+                               const std::function<void(cbox_simulator::control_box&)>& life)
 {
     int ready[2];
     if (pipe(ready) != 0)
         std::abort();
     child_ = fork();
     if (child_ == 0)
-        serve(address, rate, ready[1]);
+        serve(address, rate, life, ready[1]);
     close(ready[1]);
     char go = 0;
     if (read(ready[0], &go, 1) != 1)

@@ -6,6 +6,11 @@
 
 #include <sys/types.h>
 
+namespace cbox_simulator
+{
+class control_box;
+}
+
 namespace benchmark_support
 {
 /// A simulated control box in a process of its own, so that its work does not count as a client's.
@@ -13,7 +18,10 @@ class server_process
 {
 public:
     /// @param rate  frames a second
-    server_process(const std::string& address, double rate);
+    /// @param life  what the process does beside serving
+    server_process(
+        const std::string& address, double rate,
+        const std::function<void(cbox_simulator::control_box&)>& life = [](auto&) {});
     ~server_process();
     server_process(const server_process&) = delete;
     server_process& operator=(const server_process&) = delete;

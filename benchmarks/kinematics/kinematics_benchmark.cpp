@@ -126,9 +126,7 @@ KDL::JntArray joints_of(const joint_array& values)
 {
     KDL::JntArray joints(joint_count);
     for (std::size_t j = 0; j < joint_count; ++j)
-    {
         joints(static_cast<unsigned>(j)) = values[j] * radians;
-    }
     return joints;
 }
 

@@ -66,12 +66,8 @@ template <typename Ours, typename Theirs>
 void copy(const Theirs& from, Ours& to)
 {
     for (Eigen::Index r = 0; r < from.rows(); ++r)
-    {
         for (Eigen::Index c = 0; c < from.cols(); ++c)
-        {
             to[static_cast<std::size_t>(r)][c] = from(r, c);
-        }
-    }
 }
 
 enum class kind
@@ -90,9 +86,7 @@ inputs<Ours, Theirs> matrices(kind k)
     {
         Theirs m = Theirs::NullaryExpr([] { return number(); });
         if (k == kind::symmetric)
-        {
             m = (m + m.transpose()).eval();
-        }
         if (k == kind::rotation)
         {
             m = Eigen::HouseholderQR<Theirs>(m).householderQ();
