@@ -1,13 +1,20 @@
 #include "api/api_call_logger.h"
 
+#include <algorithm>
+#include <csignal>
 #include <cstring>
 #include <filesystem>
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include "api/api_call_line.h"
 #include "api/api_call_log_data.h"
 #include "api/api_call_log_param_to_string.h"
+#include "api/api_log_print.h"
 #include "savrent/cc/system_config_parser.h"
 #include "tests/support/installation.h"
 #include "tests/support/text_form.h"
@@ -145,6 +152,132 @@ TEST(call_log, the_data_file_tells_where_this_run_logs)
     qorin_api::logger_release_control();
     std::memcpy(numbers, read_file(place.directory() / "epdlxj").data() + 2048, sizeof(numbers));
     EXPECT_EQ(2u, numbers[1]) << "a release writes the counts of that moment";
+}
+
+/// Keeps the process's files from growing beyond `size` bytes, as a full disk does.
+void limit_file_size(rlim_t size)
+{
+    std::signal(SIGXFSZ, SIG_IGN);
+    rlimit limit;
+    getrlimit(RLIMIT_FSIZE, &limit);
+    limit.rlim_cur = size;
+    ASSERT_EQ(0, setrlimit(RLIMIT_FSIZE, &limit));
+}
+
+TEST(call_log, a_full_disk_costs_the_lines_that_do_not_fit_and_no_more)
+{
+    const installation place;
+    place.start_logging();
+    for (int i = 0; i < 100; ++i) // more than what will be said, which is captured in a file too
+        logged_call("before");
+    const auto data = qorin_api::api_call_log_data::get_instance();
+    const std::uintmax_t size = fs::file_size(data->get_cur_func_call_file_path());
+
+    testing::internal::CaptureStderr();
+    for (const std::uintmax_t room : {std::uintmax_t{1}, 4 + std::string("[timestamp]:").size(), std::uintmax_t{4000}})
+    {
+        limit_file_size(size + room);
+        for (int i = 0; i < 100; ++i)
+        {
+            logged_call("during");
+            QORIN_API_LOG_PRINT(QORIN_LOG_TYPE_INFO, "during %d\n", i);
+        }
+        limit_file_size(RLIM_INFINITY);
+        (void)place.call_records(); // which tests that the files end with whole records
+        (void)place.event_records();
+    }
+    logged_call("after");
+    QORIN_API_LOG_PRINT(QORIN_LOG_TYPE_INFO, "after\n");
+    const std::string said = testing::internal::GetCapturedStderr();
+    EXPECT_EQ(2, std::count(said.begin(), said.end(), '\n')) << said;
+    EXPECT_NE(std::string::npos, said.find("call log: cannot write " + data->get_cur_func_call_file_path() + ": "));
+    EXPECT_EQ("before();\n", place.calls().front());
+    EXPECT_EQ("after();\n", place.calls().back());
+    EXPECT_LT(place.calls().size(), 200u);
+    EXPECT_TRUE(place.event_text().ends_with("] after\n"));
+}
+
+TEST(call_log, a_data_file_that_cannot_be_written_does_not_lead_the_logs_astray)
+{
+    using preparation = void (*)(const fs::path&);
+    const preparation preparations[] = {
+        [](const fs::path& file) { fs::create_directory(file); },
+        [](const fs::path& file) { ASSERT_EQ(0, mkfifo(file.c_str(), 0666)); },
+        [](const fs::path& file)
+        {
+            qorin_api::api_call_log_fields foreign = {"/nowhere", "/nowhere", 7, 7};
+            const std::string bytes(reinterpret_cast<const char*>(&foreign), sizeof(foreign));
+            test_support::write_file(file.parent_path() / "foreign", bytes);
+            fs::create_symlink("foreign", file);
+        },
+    };
+    for (const preparation prepare : preparations)
+    {
+        const installation place;
+        prepare(place.directory() / "epdlxj");
+        place.start_logging();
+        logged_call("written");
+        EXPECT_EQ(std::vector<std::string>{"written();\n"}, place.calls());
+        const fs::path foreign = place.directory() / "foreign";
+        EXPECT_TRUE(!fs::exists(foreign) || read_file(foreign).starts_with("/nowhere"));
+        qorin_api::logger_release_control();
+    }
+}
+
+TEST(call_log, a_link_in_the_place_of_a_log_is_not_followed)
+{
+    const installation place;
+    place.start_logging();
+    const fs::path first = qorin_api::api_call_log_data::get_instance()->get_cur_func_call_file_path();
+    test_support::write_file(place.directory() / "foreign", "untouched");
+    fs::create_symlink(place.directory() / "foreign", first.parent_path() / "1000001.txt");
+    testing::internal::CaptureStderr();
+    for (int i = 0; i <= 10'000; ++i)
+        logged_call("call");
+    EXPECT_NE(std::string::npos, testing::internal::GetCapturedStderr().find("1000001.txt: "));
+    EXPECT_EQ("untouched", read_file(place.directory() / "foreign"));
+    EXPECT_FALSE(qorin_api::is_logger_file_open());
+}
+
+TEST(call_log, the_latest_10000_entries_wait_for_a_file)
+{
+    const installation place;
+    testing::internal::CaptureStderr();
+    for (int i = 0; i < 10'005; ++i)
+    {
+        logged_call("call", i);
+        QORIN_API_LOG_PRINT(QORIN_LOG_TYPE_INFO, "message %d\n", i);
+    }
+    EXPECT_EQ("call log: more than 10000 entries wait for its file, the oldest are dropped\n"
+              "event log: more than 10000 entries wait for its file, the oldest are dropped\n",
+              testing::internal::GetCapturedStderr());
+    place.start_logging();
+    EXPECT_EQ(30'000u, place.call_records().size());
+    EXPECT_EQ("call(5);\n", place.calls().front());
+    EXPECT_EQ(10'000u, place.event_records().size());
+    EXPECT_TRUE(place.event_records().front().ends_with("] message 5\n"));
+}
+
+TEST(call_log, no_file_stays_open_in_programs_that_start_or_takes_the_place_of_a_standard_stream)
+{
+    const installation place;
+    close(STDIN_FILENO);
+    place.start_logging();
+    ASSERT_EQ(STDIN_FILENO, open("/dev/null", O_RDONLY | O_CLOEXEC)) << "taken by a log";
+    int open_logs = 0;
+    for (const fs::directory_entry& entry : fs::directory_iterator("/proc/self/fd"))
+    {
+        std::error_code gone;
+        if (!fs::read_symlink(entry.path(), gone).string().starts_with(place.directory().string()))
+            continue;
+        ++open_logs;
+        EXPECT_EQ(FD_CLOEXEC, fcntl(std::stoi(entry.path().filename()), F_GETFD));
+    }
+    EXPECT_EQ(2, open_logs);
+
+    qorin_api::logger_rest();
+    logged_call("late");
+    EXPECT_EQ(std::vector<std::string>{"late();\n"}, place.calls()) << "a line opens its file again";
 }
 
 TEST(call_log, lines_collect_again_after_a_release)

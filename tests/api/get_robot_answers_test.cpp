@@ -8,46 +8,34 @@ TEST_F(robot_getters, targets_in_revolutions_per_minute)
 {
     make_robots_present();
     put(robot_at(1) + 608 + 8 * 2, 90.0);
-    put(robot_at(1) + 656 + 8 * 5, -3.0);
-    double value = 0;
-    EXPECT_EQ(QORIN_API_RESULT_OK, qorin_rpc_robot_joint_target_velocity_rpm_get(box.id, 1, 2, &value));
-    EXPECT_EQ(15.0, value);
-    EXPECT_EQ(QORIN_API_RESULT_OK, qorin_rpc_robot_joint_target_acceleration_rpm_get(box.id, 1, 5, &value));
-    EXPECT_EQ(-0.5, value);
+    put(robot_at(1) + 656 + 8 * 2, -3.0);
+    const auto speed = call(qorin_rpc_robot_joint_target_velocity_rpm_get, {box.id, 1, 2});
+    const auto acceleration = call(qorin_rpc_robot_joint_target_acceleration_rpm_get, {box.id, 1, 2});
+    EXPECT_EQ(15.0, value_of<double>(speed));
+    EXPECT_EQ(-0.5, value_of<double>(acceleration));
     for (const auto getter :
          {qorin_rpc_robot_joint_target_velocity_rpm_get, qorin_rpc_robot_joint_target_acceleration_rpm_get})
-        EXPECT_EQ(QORIN_API_RESULT_ERROR_ROBOT_JOINT_INDEX_OUT_OF_RANGE, getter(box.id, 1, 6, &value));
-    EXPECT_EQ(-0.5, value);
+        expect_refused(QORIN_API_RESULT_ERROR_ROBOT_JOINT_INDEX_OUT_OF_RANGE, call(getter, {box.id, 1, 6}), "joint 6");
 }
 
 TEST_F(robot_getters, answers_made_from_the_control_mode_and_the_violation)
 {
     make_robots_present();
-    const struct
+    const auto ask = [&](auto getter) { return value_of<unsigned int>(call(getter, {box.id, 1})); };
+    const unsigned int modes[][3] = {// mode, velocity control, direct teaching
+                                     {403100, 400101, 400101}, {403103, 400100, 400101}, {403106, 400101, 400101},
+                                     {403108, 400101, 400101}, {403109, 400100, 400101}, {403110, 400101, 400100},
+                                     {0, 400101, 400101}};
+    for (const auto& [mode, velocity_control, direct_teaching] : modes)
     {
-        unsigned int control_mode;
-        QORIN_SWITCH velocity_control;
-        QORIN_SWITCH direct_teaching;
-    } modes[] = {{403100, QORIN_SWITCH_OFF, QORIN_SWITCH_OFF}, {403103, QORIN_SWITCH_ON, QORIN_SWITCH_OFF},
-                 {403106, QORIN_SWITCH_OFF, QORIN_SWITCH_OFF}, {403108, QORIN_SWITCH_OFF, QORIN_SWITCH_OFF},
-                 {403109, QORIN_SWITCH_ON, QORIN_SWITCH_OFF},  {403110, QORIN_SWITCH_OFF, QORIN_SWITCH_ON},
-                 {0, QORIN_SWITCH_OFF, QORIN_SWITCH_OFF}};
-    for (const auto& mode : modes)
-    {
-        put(robot_at(1) + 16, mode.control_mode);
-        QORIN_SWITCH velocity_control = {};
-        QORIN_SWITCH direct_teaching = {};
-        EXPECT_EQ(QORIN_API_RESULT_OK, qorin_rpc_robot_velocity_control_switch_get(box.id, 1, &velocity_control));
-        EXPECT_EQ(QORIN_API_RESULT_OK, qorin_rpc_robot_direct_teaching_switch_get(box.id, 1, &direct_teaching));
-        EXPECT_EQ(mode.velocity_control, velocity_control) << mode.control_mode;
-        EXPECT_EQ(mode.direct_teaching, direct_teaching) << mode.control_mode;
+        put(robot_at(1) + 16, mode);
+        EXPECT_EQ(velocity_control, ask(qorin_rpc_robot_velocity_control_switch_get)) << mode;
+        EXPECT_EQ(direct_teaching, ask(qorin_rpc_robot_direct_teaching_switch_get)) << mode;
     }
     for (const unsigned int violation : {0U, 1U, 0x80000000U})
     {
         put(robot_at(1) + 112, violation);
-        QORIN_ROBOT_SAFETY_STATE state = {};
-        EXPECT_EQ(QORIN_API_RESULT_OK, qorin_rpc_robot_state_safety_get(box.id, 1, &state));
-        EXPECT_EQ(violation == 0 ? 401000U : 401001U, state);
+        EXPECT_EQ(violation == 0 ? 401000U : 401001U, ask(qorin_rpc_robot_state_safety_get));
     }
 }
 
@@ -91,34 +79,23 @@ TEST_F(robot_getters, the_motion_name_ends_with_a_nul_and_nothing_is_written_beh
     }
 }
 
-unsigned int profiler_period(unsigned int cbox_id, unsigned int cycles)
+TEST_F(robot_getters, the_profiler_period_is_in_milliseconds_of_the_first_cycle)
 {
-    put(robot_at(1) + 60, cycles);
-    unsigned int period = 0;
-    EXPECT_EQ(QORIN_API_RESULT_OK, qorin_rpc_robot_ext_profiler_period_get(cbox_id, 1, &period));
-    return period;
-}
-
-TEST_F(robot_getters, the_profiler_period_is_rounded_to_milliseconds)
-{
+    const auto period = [&](unsigned int cycles)
+    {
+        put(robot_at(1) + 60, cycles);
+        return value_of<unsigned int>(call(qorin_rpc_robot_ext_profiler_period_get, {box.id, 1}));
+    };
+    put(control_cycle_at, 250.0); // of a robot that is not there: it does not count
+    expect_refused(QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID, call(qorin_rpc_robot_ext_profiler_period_get, {box.id, 1}),
+                   "no robot");
     make_robots_present();
     put(control_cycle_at, 500.0);
-    EXPECT_EQ(2U, profiler_period(box.id, 3));
-    EXPECT_EQ(2U, profiler_period(box.id, 4));
-    EXPECT_EQ(1U, profiler_period(box.id, 1));
-    EXPECT_EQ(0U, profiler_period(box.id, 0));
-}
-
-TEST_F(robot_getters, the_profiler_period_keeps_the_first_cycle)
-{
-    unsigned int period = 0;
-    put(control_cycle_at, 250.0);
-    EXPECT_EQ(QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID, qorin_rpc_robot_ext_profiler_period_get(box.id, 1, &period));
-    make_robots_present();
+    EXPECT_EQ(2U, period(3)) << "rounded";
     put(control_cycle_at, 1000.0);
-    EXPECT_EQ(3U, profiler_period(box.id, 3));
-    put(control_cycle_at, 500.0);
-    EXPECT_EQ(3U, profiler_period(box.id, 3));
+    EXPECT_EQ(2U, period(4)) << "the first cycle stands";
+    EXPECT_EQ(1U, period(1));
+    EXPECT_EQ(0U, period(0));
 }
 
 TEST_F(robot_getters, tool_inputs_and_outputs)
@@ -127,30 +104,22 @@ TEST_F(robot_getters, tool_inputs_and_outputs)
     put(tool_at(1) + 96, 0b10101U);
     put(tool_at(1) + 128, 0b01010U);
     put(tool_at(1) + 144, 0b01001U);
+    const auto ask = [&](auto getter, unsigned int channel) { return call(getter, {box.id, 1, channel}); };
     for (unsigned int channel = 0; channel < 4; ++channel)
     {
-        unsigned int value = 2;
-        EXPECT_EQ(QORIN_API_RESULT_OK, qorin_rpc_robot_tool_io_digital_input_get(box.id, 1, channel, &value));
-        EXPECT_EQ(channel % 2 == 0 ? 1U : 0U, value);
-        EXPECT_EQ(QORIN_API_RESULT_OK, qorin_rpc_robot_tool_io_digital_output_get(box.id, 1, channel, &value));
-        EXPECT_EQ(channel % 2, value);
+        EXPECT_EQ(1 - channel % 2, value_of<unsigned int>(ask(qorin_rpc_robot_tool_io_digital_input_get, channel)));
+        EXPECT_EQ(channel % 2, value_of<unsigned int>(ask(qorin_rpc_robot_tool_io_digital_output_get, channel)));
     }
     for (unsigned int channel = 0; channel < 2; ++channel)
     {
-        double value = 0;
-        EXPECT_EQ(QORIN_API_RESULT_OK, qorin_rpc_robot_tool_io_analog_input_get(box.id, 1, channel, &value));
-        EXPECT_EQ(get<double>(tool_at(1) + 148 + 8 * channel), value);
-        EXPECT_EQ(QORIN_API_RESULT_OK, qorin_rpc_robot_tool_io_analog_output_get(box.id, 1, channel, &value));
-        EXPECT_EQ(get<double>(tool_at(1) + 164 + 8 * channel), value);
-
-        QORIN_ANALOG_IO_MODE mode = {};
-        int range = 17;
-        double range_value = 18.0;
-        EXPECT_EQ(QORIN_API_RESULT_OK,
-                  qorin_rpc_robot_tool_io_analog_input_mode_get(box.id, 1, channel, &mode, &range, &range_value));
-        EXPECT_EQ(400700U + channel, mode);
-        EXPECT_EQ(17, range);
-        EXPECT_EQ(18.0, range_value);
+        EXPECT_EQ(get<double>(tool_at(1) + 148 + 8 * channel),
+                  value_of<double>(ask(qorin_rpc_robot_tool_io_analog_input_get, channel)));
+        EXPECT_EQ(get<double>(tool_at(1) + 164 + 8 * channel),
+                  value_of<double>(ask(qorin_rpc_robot_tool_io_analog_output_get, channel)));
+        const answer mode = ask(qorin_rpc_robot_tool_io_analog_input_mode_get, channel);
+        EXPECT_EQ(400700U + channel, value_of<unsigned int>(mode));
+        EXPECT_EQ(bytes(4, 0xA5), mode.outputs[1]) << "the range is left alone";
+        EXPECT_EQ(bytes(8, 0xA5), mode.outputs[2]);
     }
 }
 
@@ -208,14 +177,8 @@ TEST_F(robot_getters, a_safety_plane_is_its_normal_and_the_negated_constant)
     for (const unsigned int plane : {0U, 4U, 9U})
     {
         const answer got = ask(1, plane);
-        EXPECT_EQ(QORIN_API_RESULT_OK, got.result);
-        ASSERT_EQ(4U, got.outputs.size());
         for (std::size_t i = 0; i < 4; ++i)
-        {
-            double value = 0;
-            std::memcpy(&value, got.outputs[i].data(), sizeof value);
-            EXPECT_EQ(get<double>(block + 40 + 32 * plane + 8 * i) * (i == 3 ? -1 : 1), value);
-        }
+            EXPECT_EQ(get<double>(block + 40 + 32 * plane + 8 * i) * (i == 3 ? -1 : 1), value_of<double>(got, i));
     }
     expect_refused(QORIN_API_RESULT_ERROR_ROBOT_INVAILD_WORK_SPACE_ID, ask(1, 3), "off");
     expect_refused(QORIN_API_RESULT_ERROR_ROBOT_PARAM_OUT_OF_RANGE, ask(1, 10), "out of range");

@@ -48,7 +48,7 @@ struct row
         case source::robot:
             return robot_at(robot) + offsets[output];
         case source::joint_array:
-            return robot_at(robot) + offsets[output] + 8 * joint;
+            return robot_at(robot) + offsets[output] + std::size_t{8} * joint;
         case source::joint:
             return joint_at(robot, joint) + offsets[output];
         case source::drive:
@@ -193,8 +193,8 @@ void expect_fields(const answer& got, const row& getter, unsigned int robot, uns
     ASSERT_EQ(getter.offsets.size(), got.outputs.size());
     for (std::size_t output = 0; output < got.outputs.size(); ++output)
     {
-        const unsigned char* field = mirror() + getter.offset(output, robot, joint);
-        EXPECT_EQ(bytes(field, field + got.outputs[output].size()), got.outputs[output]) << "output " << output;
+        const bytes& value = got.outputs[output];
+        EXPECT_EQ(bytes_at(getter.offset(output, robot, joint), value.size()), value) << "output " << output;
     }
 }
 
@@ -288,5 +288,27 @@ TEST_F(robot_getters, only_checked_joints_are_bounded)
             expect_refused(QORIN_API_RESULT_ERROR_ROBOT_JOINT_INDEX_OUT_OF_RANGE, getter.ask(box.id, 0, 4),
                            getter.name);
         }
+}
+
+TEST_F(robot_getters, what_leaves_the_frame_reads_as_zeroes)
+{
+    make_robots_present();
+    // Each of these joints, drives and tools is one that the end of the frame cuts, or lies beyond it.
+    for (unsigned int robot = 0; robot < 2; ++robot)
+        put(robot_at(robot) + number_of_joints_at, 0xFFFFFFFFU);
+    for (const unsigned int joint : {43U, 44U, 53U, 54U, 2628U, 2722U, 3219U, 3313U, 3314U, 0x20000000U, 0xFFFFFFFEU})
+        for (const row& getter : rows())
+            for (unsigned int robot = 0; robot < 2 && getter.has_joint(); ++robot)
+                expect_fields(getter.ask(box.id, robot, joint), getter, robot, joint);
+    for (const unsigned int module : {35U, 36U, 40U, 41U, 0x08000000U, 0xFFFFFFFFU})
+    {
+        put(joint_at(0, 2), module);
+        put(robot_at(0) + tool_module_at, module);
+        for (const row& getter : rows())
+            if (getter.from == source::drive || getter.from == source::tool)
+                expect_fields(getter.ask(box.id, 0, 2), getter, 0, 2);
+    }
+    EXPECT_STREQ("", qorin_robot_tool_io_sw_version_get(0));
+    EXPECT_STREQ("", qorin_robot_joint_sw_version_get(0, 2));
 }
 } // namespace

@@ -5,7 +5,7 @@
 #include <cstring>
 #include <numbers>
 #include <string>
-#include <vector>
+#include <tuple>
 
 #include <gtest/gtest.h>
 
@@ -60,28 +60,34 @@ protected:
     const test_support::installation place;
     test_support::module_record record{
         test_support::put_module(QORIN_RECORDING_MODULE, place.directory() / "kin", "module.so")};
+    QORIN_API_RESULT solve(const vector_array& position)
+    {
+        return qorin_rpc_robot_util_pose_to_joint_angle_convert(box.id, 1, flange, reference.data(), position.data(),
+                                                                orientation.data(), joints.data());
+    }
+
+    QORIN_API_RESULT approach(unsigned int steps, const vector_array& position)
+    {
+        return qorin_rpc_robot_util_pose_to_joint_angle_convert_iterative(
+            box.id, 1, flange, reference.data(), position.data(), orientation.data(), steps, joints.data());
+    }
+
     const joint_array reference = {10, 20, 30, 40, 50, 60};
     const vector_array orientation = {7, 8, 9};
-    joint_array joints = {-1, -1, -1, -1, -1, -1};
+    std::array<double, 7> joints = {-1, -1, -1, -1, -1, -1, -1};
 };
 
 TEST_F(recorded_conversion, a_pose_that_is_solved_at_once_is_not_approached)
 {
-    const vector_array position = {5, 6, 7};
-    EXPECT_EQ(QORIN_API_RESULT_OK,
-              qorin_rpc_robot_util_pose_to_joint_angle_convert(box.id, 1, flange, reference.data(), position.data(),
-                                                               orientation.data(), joints.data()));
+    EXPECT_EQ(QORIN_API_RESULT_OK, solve({5, 6, 7}));
     EXPECT_EQ("inverse 1 5,6,7 7,8,9 10,20,30,40,50,60;", record.calls());
-    EXPECT_EQ((joint_array{5, 6, 7, 8, 9, 10}), joints);
+    EXPECT_EQ((std::array{5., 6., 7., 8., 9., 10., -1.}), joints);
 }
 
 TEST_F(recorded_conversion, an_approach_ends_at_the_first_step_without_a_solution_and_writes_nothing)
 {
     // From (10, 11, 12) the sixth of ten steps is at x = -0.8, rounded towards zero in the record.
-    const vector_array position = {-8, 11, 12};
-    EXPECT_EQ(QORIN_API_RESULT_WARNING_ROBOT_INVERSE_FAILURE,
-              qorin_rpc_robot_util_pose_to_joint_angle_convert(box.id, 1, flange, reference.data(), position.data(),
-                                                               orientation.data(), joints.data()));
+    EXPECT_EQ(QORIN_API_RESULT_WARNING_ROBOT_INVERSE_FAILURE, solve({-8, 11, 12}));
     EXPECT_EQ("inverse 1 -8,11,12 7,8,9 10,20,30,40,50,60;"
               "forward 1 10,20,30,40,50,60;"
               "inverse 1 8,11,12 7,8,9 10,20,30,40,50,60;"
@@ -91,46 +97,37 @@ TEST_F(recorded_conversion, an_approach_ends_at_the_first_step_without_a_solutio
               "inverse 1 1,11,12 7,8,9 2,3,4,5,6,7;"
               "inverse 1 0,11,12 7,8,9 1,2,3,4,5,6;",
               record.calls());
-    EXPECT_EQ((joint_array{-1, -1, -1, -1, -1, -1}), joints);
+    EXPECT_EQ((std::array{-1., -1., -1., -1., -1., -1., -1.}), joints);
 }
 
 TEST_F(recorded_conversion, steps_are_counted_and_stand_on_a_straight_line)
 {
-    const auto approach = [&](unsigned int steps, vector_array position)
+    const auto approached = [&](unsigned int steps, const vector_array& position)
     {
-        EXPECT_EQ(QORIN_API_RESULT_OK,
-                  qorin_rpc_robot_util_pose_to_joint_angle_convert_iterative(
-                      box.id, 1, flange, reference.data(), position.data(), orientation.data(), steps, joints.data()));
+        EXPECT_EQ(QORIN_API_RESULT_OK, approach(steps, position));
         return record.calls();
     };
     const std::string start = "forward 1 10,20,30,40,50,60;";
-    EXPECT_EQ(start, approach(0, {50, 11, 12}));
-    EXPECT_EQ(reference, joints);
-    EXPECT_EQ(start + "inverse 1 50,11,12 7,8,9 10,20,30,40,50,60;", approach(1, {50, 11, 12}));
-    EXPECT_EQ((joint_array{50, 51, 52, 53, 54, 55}), joints);
+    EXPECT_EQ(start, approached(0, {50, 11, 12}));
+    EXPECT_EQ((std::array{10., 20., 30., 40., 50., 60., -1.}), joints);
+    EXPECT_EQ(start + "inverse 1 50,11,12 7,8,9 10,20,30,40,50,60;", approached(1, {50, 11, 12}));
+    EXPECT_EQ((std::array{50., 51., 52., 53., 54., 55., -1.}), joints);
     EXPECT_EQ(start + "inverse 1 30,21,42 7,8,9 10,20,30,40,50,60;inverse 1 50,31,72 7,8,9 30,31,32,33,34,35;",
-              approach(2, {50.001, 31.001, 72.001}));
+              approached(2, {50.001, 31.001, 72.001}));
     EXPECT_EQ(start + "inverse 1 10,11,12 7,8,9 10,20,30,40,50,60;inverse 1 10,11,12 7,8,9 10,11,12,13,14,15;",
-              approach(2, {10, 11, 12}))
+              approached(2, {10, 11, 12}))
         << "no way to go";
 }
 
 TEST_F(recorded_conversion, an_approach_takes_the_joints_that_the_mirror_tells_at_most_six)
 {
-    const vector_array position = {50, 11, 12};
     frame.robots[1].number_of_joints = 2;
-    EXPECT_EQ(QORIN_API_RESULT_OK,
-              qorin_robot_util_pose_to_joint_angle_convert_iterative(1, flange, reference.data(), position.data(),
-                                                                     orientation.data(), 1, joints.data()));
+    EXPECT_EQ(QORIN_API_RESULT_OK, approach(1, {50, 11, 12}));
     EXPECT_EQ("forward 1 10,20,30,40,50,60;inverse 1 50,11,12 7,8,9 10,20,0,0,0,0;", record.calls());
-    EXPECT_EQ((joint_array{50, 51, -1, -1, -1, -1}), joints);
-
+    EXPECT_EQ((std::array{50., 51., -1., -1., -1., -1., -1.}), joints);
     frame.robots[1].number_of_joints = 4'000'000'000;
-    std::array<double, 7> guarded = {-1, -1, -1, -1, -1, -1, -1};
-    EXPECT_EQ(QORIN_API_RESULT_OK,
-              qorin_robot_util_pose_to_joint_angle_convert_iterative(1, flange, reference.data(), position.data(),
-                                                                     orientation.data(), 1, guarded.data()));
-    EXPECT_EQ((std::array{50., 51., 52., 53., 54., 55., -1.}), guarded);
+    EXPECT_EQ(QORIN_API_RESULT_OK, approach(1, {60, 11, 12}));
+    EXPECT_EQ((std::array{60., 61., 62., 63., 64., 65., -1.}), joints);
 }
 
 TEST_F(recorded_conversion, all_solutions_and_a_posture_are_asked_for_the_flange)
@@ -146,17 +143,17 @@ TEST_F(recorded_conversion, all_solutions_and_a_posture_are_asked_for_the_flange
         EXPECT_EQ(i != 0, valid[i]);
 
     bool success = false;
-    const auto solve = [&](double x)
+    const auto solve_from_posture = [&](double x)
     {
         const vector_array at = {x, 2, 3};
         return qorin_rpc_robot_util_pose_to_posture_joint_angle_convert(
             box.id, 1, QORIN_ROBOT_POSTURE_FRONT_BELOW_FLIP, at.data(), orientation.data(), joints.data(), &success);
     };
-    EXPECT_EQ(QORIN_API_RESULT_OK, solve(1));
+    EXPECT_EQ(QORIN_API_RESULT_OK, solve_from_posture(1));
     EXPECT_TRUE(success);
-    EXPECT_EQ(QORIN_API_RESULT_OK, solve(-1)) << "no solution is no error";
+    EXPECT_EQ(QORIN_API_RESULT_OK, solve_from_posture(-1)) << "no solution is no error";
     EXPECT_FALSE(success);
-    EXPECT_EQ((joint_array{1, 2, 3, 4, 5, 6}), joints);
+    EXPECT_EQ((std::array{1., 2., 3., 4., 5., 6., -1.}), joints);
     EXPECT_EQ("all 1 1,2,3 7,8,9;posture 1 1,2,3 7,8,9 010;posture 1 -1,2,3 7,8,9 010;", record.calls());
 }
 
@@ -188,32 +185,23 @@ TEST_F(recorded_conversion, a_trajectory_interpolates_the_joints)
 
 TEST_F(recorded_conversion, robots_and_boxes_that_are_not_there_are_refused)
 {
-    const vector_array position = {5, 6, 7};
-    vector_array out[3] = {};
-    std::array<double, 48> solutions = {};
+    std::array<double, 48> memory = {}; // for all that goes in and comes out
     bool flags[8] = {};
-    const auto refusals = [&](unsigned int cbox_id, unsigned int robot_id)
-    {
-        const double* const in = reference.data();
-        const double* const p = position.data();
-        const double* const o = orientation.data();
-        double* const to = solutions.data();
-        return std::vector<unsigned int>{
-            qorin_rpc_robot_util_joint_angle_to_pose_convert(cbox_id, robot_id, flange, in, out[0].data(),
-                                                             out[1].data()),
-            qorin_rpc_robot_util_pose_to_joint_angle_convert(cbox_id, robot_id, flange, in, p, o, to),
-            qorin_rpc_robot_util_pose_to_joint_angle_convert_iterative(cbox_id, robot_id, flange, in, p, o, 1, to),
-            qorin_rpc_robot_util_position_trajectory_get(cbox_id, robot_id, 6, in, in, 1, flange, out[0].data(),
-                                                         out[1].data(), out[2].data()),
-            qorin_rpc_robot_util_pose_to_joint_all_possible_angle_convert(cbox_id, robot_id, p, o, to, flags),
-            qorin_rpc_robot_util_pose_to_posture_joint_angle_convert(
-                cbox_id, robot_id, QORIN_ROBOT_POSTURE_FRONT_ABOVE_FLIP, p, o, to, flags)};
-    };
-    EXPECT_EQ(std::vector<unsigned int>(6, QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID), refusals(box.id, 0));
-    EXPECT_EQ(std::vector<unsigned int>(6, QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID), refusals(box.id, 2));
-    EXPECT_EQ(std::vector<unsigned int>(6, QORIN_API_RESULT_ERROR_CBOX_ID_INVALID), refusals(box.id + 1, 1));
+    double* const d = memory.data();
+    for (const auto& [cbox_id, robot_id, result] : {std::tuple{box.id, 0u, QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID},
+                                                    {box.id, 2u, QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID},
+                                                    {box.id + 1, 1u, QORIN_API_RESULT_ERROR_CBOX_ID_INVALID}})
+        for (const QORIN_API_RESULT refusal :
+             {qorin_rpc_robot_util_joint_angle_to_pose_convert(cbox_id, robot_id, flange, d, d, d),
+              qorin_rpc_robot_util_pose_to_joint_angle_convert(cbox_id, robot_id, flange, d, d, d, d),
+              qorin_rpc_robot_util_pose_to_joint_angle_convert_iterative(cbox_id, robot_id, flange, d, d, d, 1, d),
+              qorin_rpc_robot_util_position_trajectory_get(cbox_id, robot_id, 6, d, d, 1, flange, d, d, d),
+              qorin_rpc_robot_util_pose_to_joint_all_possible_angle_convert(cbox_id, robot_id, d, d, d, flags),
+              qorin_rpc_robot_util_pose_to_posture_joint_angle_convert(
+                  cbox_id, robot_id, QORIN_ROBOT_POSTURE_FRONT_ABOVE_FLIP, d, d, d, flags)})
+            EXPECT_EQ(result, refusal) << cbox_id << " " << robot_id;
     EXPECT_EQ("", record.calls());
-    EXPECT_EQ(0, solutions[0]);
+    EXPECT_EQ((std::array<double, 48>{}), memory);
 }
 
 TEST(conversion_without_a_control_box, needs_one_for_the_tool_and_the_number_of_joints)

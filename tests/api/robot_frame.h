@@ -1,7 +1,9 @@
 #ifndef TESTS_API_ROBOT_FRAME_H
 #define TESTS_API_ROBOT_FRAME_H
 
+#include <algorithm>
 #include <array>
+#include <cstdint>
 #include <cstring>
 #include <string>
 #include <tuple>
@@ -32,7 +34,7 @@ inline std::size_t robot_at(unsigned int robot)
     return 2608 + 4728 * robot;
 }
 
-inline std::size_t joint_at(unsigned int robot, unsigned int joint)
+inline std::size_t joint_at(unsigned int robot, std::size_t joint)
 {
     return robot_at(robot) + 1896 + 472 * joint;
 }
@@ -43,19 +45,18 @@ inline unsigned int drive_of(unsigned int robot, unsigned int joint)
     return (5 * (6 * robot + joint) + 3) % 12;
 }
 
-inline std::size_t drive_at(unsigned int robot, unsigned int joint)
-{
-    return 16492 + 376 * drive_of(robot, joint);
-}
-
-inline std::size_t tool_at(unsigned int robot)
-{
-    return 20940 + 216 * (1 - robot);
-}
-
 inline unsigned char* mirror()
 {
     return reinterpret_cast<unsigned char*>(qorin_internal_get_shared_data_for_write());
+}
+
+/// What stands in the mirror; beyond its end there are zeroes.
+inline bytes bytes_at(std::size_t offset, std::size_t count)
+{
+    bytes got(count);
+    if (offset < frame_size && count > 0)
+        std::memcpy(got.data(), mirror() + offset, std::min(count, frame_size - offset));
+    return got;
 }
 
 template <class Value>
@@ -68,8 +69,18 @@ template <class Value>
 Value get(std::size_t offset)
 {
     Value value;
-    std::memcpy(&value, mirror() + offset, sizeof value);
+    std::memcpy(&value, bytes_at(offset, sizeof value).data(), sizeof value);
     return value;
+}
+
+inline std::size_t drive_at(unsigned int robot, unsigned int joint)
+{
+    return 16492 + std::size_t{376} * get<std::uint32_t>(joint_at(robot, joint));
+}
+
+inline std::size_t tool_at(unsigned int robot)
+{
+    return 20940 + std::size_t{216} * get<std::uint32_t>(robot_at(robot) + tool_module_at);
 }
 
 /// A connected control box whose mirror is full of words that all differ, and of which each pair is a proper double.
@@ -136,6 +147,17 @@ answer call(QORIN_API_RESULT (*getter)(Params...), const std::vector<unsigned in
         if (widths[i] != 0)
             got.outputs.emplace_back(slots[i].begin(), slots[i].begin() + static_cast<std::ptrdiff_t>(widths[i]));
     return got;
+}
+
+/// An output of a call that answered OK.
+template <class Value>
+Value value_of(const answer& got, std::size_t output = 0)
+{
+    EXPECT_EQ(QORIN_API_RESULT_OK, got.result);
+    EXPECT_EQ(sizeof(Value), got.outputs.at(output).size());
+    Value value;
+    std::memcpy(&value, got.outputs[output].data(), sizeof value);
+    return value;
 }
 
 inline void expect_refused(QORIN_API_RESULT result, const answer& got, const std::string& name)

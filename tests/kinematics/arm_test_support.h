@@ -7,8 +7,10 @@
 #include <numbers>
 #include <ostream>
 #include <random>
+#include <string>
 
 #include <Eigen/Geometry>
+#include <gtest/gtest.h>
 
 #include "kinematics/arm_models.h"
 #include "kinematics/arm_solver.h"
@@ -41,9 +43,7 @@ inline double to_radians(double degrees)
 inline int pose_count()
 {
     if (const char* text = std::getenv("QORIN_KINEMATICS_TEST_POSES"))
-    {
         return std::atoi(text);
-    }
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
     return 10'000;
 #else
@@ -133,12 +133,37 @@ struct shown
     {
         out.precision(17);
         for (const double joint : value.joints)
-        {
             out << joint << ' ';
-        }
         return out;
     }
 };
+
+/// The solutions of a pose, each of which reaches it.
+inline solution_set reaching_solutions(const arm_solver& solver, const flange_pose& pose)
+{
+    const solution_set solutions = solver.inverse_all_solutions(pose);
+    const Eigen::Isometry3d target = transform_of(pose);
+    for (std::size_t s = 0; s < solution_count; ++s)
+        EXPECT_TRUE(!solutions.valid[s] || reaches(solver, solutions.joints[s], target))
+            << "solution " << s << ": " << shown{solutions.joints[s]};
+    return solutions;
+}
+
+/// A test for each model; a failure ends it.
+class every_arm : public testing::TestWithParam<arm_model>
+{
+protected:
+    joint_array random_joints() { return kinematics_test::random_joints(random, GetParam()); }
+
+    const dh_table& table = GetParam().table;
+    const arm_solver solver{table};
+    std::mt19937_64 random{GetParam().model};
+};
+
+inline std::string model_of(const testing::TestParamInfo<arm_model>& tested)
+{
+    return std::to_string(tested.param.model);
+}
 } // namespace kinematics_test
 
 #endif

@@ -1,4 +1,4 @@
-#include "kinematics/savrent_kinematics.h"
+#include "qorin/savrent_kinematics.h"
 
 #include <atomic>
 #include <memory>
@@ -27,38 +27,31 @@ protected:
 
     void TearDown() override
     {
-        if (handle)
-        {
-            destroy(&handle);
-            EXPECT_EQ(nullptr, handle);
-        }
+        destroy(&handle);
+        EXPECT_EQ(nullptr, handle);
     }
 
-    template <typename function>
-    function* symbol(function* /*for its type*/, const char* name) const
-    {
-        return reinterpret_cast<function*>(library ? dlsym(library.get(), name) : nullptr);
-    }
-
-#define SYMBOL(name) symbol(static_cast<decltype(savrent_kinematics_##name)*>(nullptr), "savrent_kinematics_" #name)
+#define FUNCTION(name)                                                                                                 \
+    decltype(&savrent_kinematics_##name) name =                                                                        \
+        reinterpret_cast<decltype(name)>(library ? dlsym(library.get(), "savrent_kinematics_" #name) : nullptr)
     struct closer
     {
         void operator()(void* opened) const { dlclose(opened); }
     };
     std::unique_ptr<void, closer> library{dlopen(QORIN_KINEMATICS_ARM_MODULE, RTLD_NOW | RTLD_LOCAL)};
-    decltype(&savrent_kinematics_get_num_of_models) get_num_of_models = SYMBOL(get_num_of_models);
-    decltype(&savrent_kinematics_get_model_name) get_model_name = SYMBOL(get_model_name);
-    decltype(&savrent_kinematics_get_num_of_joints) get_num_of_joints = SYMBOL(get_num_of_joints);
-    decltype(&savrent_kinematics_create) create = SYMBOL(create);
-    decltype(&savrent_kinematics_destroy) destroy = SYMBOL(destroy);
-    decltype(&savrent_kinematics_set_model_name) set_model_name = SYMBOL(set_model_name);
-    decltype(&savrent_kinematics_forward) forward = SYMBOL(forward);
-    decltype(&savrent_kinematics_inverse) inverse = SYMBOL(inverse);
-    decltype(&savrent_kinematics_inverse_all_solutions) inverse_all_solutions = SYMBOL(inverse_all_solutions);
-    decltype(&savrent_kinematics_inverse_from_posture) inverse_from_posture = SYMBOL(inverse_from_posture);
-    decltype(&savrent_kinematics_set_dh_parameter) set_dh_parameter = SYMBOL(set_dh_parameter);
-    decltype(&savrent_kinematics_get_dh_parameter) get_dh_parameter = SYMBOL(get_dh_parameter);
-#undef SYMBOL
+    FUNCTION(get_num_of_models);
+    FUNCTION(get_model_name);
+    FUNCTION(get_num_of_joints);
+    FUNCTION(create);
+    FUNCTION(destroy);
+    FUNCTION(set_model_name);
+    FUNCTION(forward);
+    FUNCTION(inverse);
+    FUNCTION(inverse_all_solutions);
+    FUNCTION(inverse_from_posture);
+    FUNCTION(set_dh_parameter);
+    FUNCTION(get_dh_parameter);
+#undef FUNCTION
 
     dh_table table_of_handle() const
     {
@@ -112,9 +105,7 @@ TEST_F(kinematics_module, solves_what_its_forward_gives)
     joints[0] += 5.0;
     ASSERT_EQ(1, inverse(handle, position, orientation, joints.data(), joints.data()));
     for (std::size_t j = 0; j < joint_count; ++j)
-    {
         EXPECT_NEAR(some_joints[j], joints[j], 1e-9);
-    }
 
     std::array<joint_array, 8> solutions;
     std::array<char, 8> valid;
@@ -189,13 +180,9 @@ TEST_F(kinematics_module, solves_in_many_threads_while_the_table_changes)
     };
     std::vector<std::jthread> threads;
     for (int i = 0; i < 4; ++i)
-    {
         threads.emplace_back(solve);
-    }
     for (int i = 0; i < 1'000; ++i)
-    {
         set_table(i % 2 == 0 ? small.table : large.table);
-    }
     threads.clear();
     EXPECT_EQ(0, mixed);
     EXPECT_EQ(large.table, table_of_handle());

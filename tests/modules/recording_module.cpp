@@ -3,7 +3,7 @@
 #include <cstdlib>
 #include <string>
 
-#include "kinematics/savrent_kinematics.h"
+#include "qorin/savrent_kinematics.h"
 
 namespace
 {
@@ -143,8 +143,6 @@ void savrent_kinematics_get_dh_parameter(void* /*handle*/, double* parameter_1, 
 {
     double* const parameters[] = {parameter_1, parameter_2, parameter_3, parameter_4};
     for (int i = 0; i < 4; ++i)
-    {
         for (int k = 0; k < joints; ++k)
             parameters[i][k] = table[i][k];
-    }
 }

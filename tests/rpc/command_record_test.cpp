@@ -1,7 +1,6 @@
 // Commands that differ in kind, byte for byte: written out by hand, so that no rule of marshalling is trusted.
 #include <array>
 #include <cstring>
-#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -9,46 +8,14 @@
 
 #include "qorin/qorin_api_rpc_client.h"
 #include "tests/rpc/connected_box.h"
-#include "tests/support/installation.h"
+#include "tests/rpc/expected_record.h"
 
 namespace
 {
 using test_support::connected_box;
+using test_support::expect_record;
 using test_support::reply_with;
-using test_support::scripted_reply;
-
-/// Bytes at an offset of a record.
-struct piece
-{
-    piece(std::size_t at, std::initializer_list<std::uint32_t> words) : offset(at) { add(words.begin(), words.size()); }
-    piece(std::size_t at, std::initializer_list<double> numbers) : offset(at) { add(numbers.begin(), numbers.size()); }
-    piece(std::size_t at, const char* text) : offset(at), bytes(text) {}
-
-    template <class Element>
-    void add(const Element* elements, std::size_t count)
-    {
-        bytes.assign(reinterpret_cast<const char*>(elements), count * sizeof(Element));
-    }
-
-    std::size_t offset;
-    std::string bytes;
-};
-
-/// The record is these pieces, and zero elsewhere.
-void expect_record(const protocol::request_record& record, std::initializer_list<piece> pieces)
-{
-    std::array<unsigned char, sizeof record> expected{};
-    for (const auto& each : pieces)
-        std::memcpy(expected.data() + each.offset, each.bytes.data(), each.bytes.size());
-    std::array<unsigned char, sizeof record> actual;
-    std::memcpy(actual.data(), &record, sizeof record);
-    for (std::size_t at = 0; at < expected.size(); ++at)
-        ASSERT_EQ(expected[at], actual[at]) << record.wire_name << " at offset " << at;
-}
-
-/// Memory for one parameter, as long as what is read of it.
-template <class Element>
-using room = std::array<Element, 128 / sizeof(Element)>;
+using test_support::room;
 
 class command_record : public testing::Test
 {
@@ -197,40 +164,4 @@ TEST(command_reply, fills_outputs_by_their_order_whatever_the_result_is)
     EXPECT_EQ(5u, id[0]);
 }
 
-TEST(command_call_line, shows_what_it_can_of_odd_arguments)
-{
-    const test_support::installation place;
-    place.start_logging();
-    connected_box box;
-    box.always_reply(reply_with(QORIN_API_RESULT_OK));
-    const room<double> numbers{401801.0};
-    const room<unsigned int> words{400100};
-    const room<unsigned char> bytes{7};
-    room<double> result{};
-    QORIN_INTERPOLATOR interpolator[32] = {QORIN_INTERPOLATOR_ARC};
-    const double* a = numbers.data();
-
-    ASSERT_EQ(0u, box.id) << "the first of its process";
-    qorin_rpc_motion_command_robot_tcp_interpolator_get(box.id, 3, interpolator);
-    qorin_rpc_robot_tool_io_digital_output_multiple_set(box.id, 1, 2, words.data(), words.data());
-    qorin_rpc_robot_tool_io_rs485_modbus_rtu_write(box.id, 1, 2, 3, 4, 5, 6, bytes.data());
-    qorin_rpc_robot_tcp_from_flange_multiple_position_set(box.id, 1, 3, a, a, a, a, a, a, result.data());
-    qorin_rpc_robot_ext_move_pos_ort_euler_add(box.id, 0, QORIN_POSE_TYPE_TCP, 1, 2, 3, 4, 5, 6, 7);
-    qorin_rpc_robot_safety_limit_tcp_bounding_box_set(box.id, 1, QORIN_REF_COORDINATE_TCP, 1, 2, 3, 4, 5, 6, 7, 8, 9,
-                                                      10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20, 21, 22, 23, 24);
-    std::string box_line = "qorin_rpc_robot_safety_limit_tcp_bounding_box_set(0, 1, QORIN_REF_COORDINATE_TCP";
-    for (int number = 1; number <= 24; ++number)
-        box_line += ", " + std::to_string(number) + ".000000";
-    EXPECT_EQ((std::vector<std::string>{
-                  "qorin_rpc_motion_command_robot_tcp_interpolator_get(0, 3, QORIN_INTERPOLATOR_ARC);\n",
-                  "qorin_rpc_robot_tool_io_digital_output_multiple_set(0, 1, 2, QORIN_SWITCH_ON, QORIN_SWITCH_ON);\n",
-                  "qorin_rpc_robot_tool_io_rs485_modbus_rtu_write(0, 1, 2, 3, 4, 5, 6, nullptr);\n",
-                  "qorin_rpc_robot_tcp_from_flange_multiple_position_set(0, 1, 3, QORIN_POSE_TYPE_TCP, "
-                  "QORIN_POSE_TYPE_TCP, QORIN_POSE_TYPE_TCP, QORIN_POSE_TYPE_TCP, QORIN_POSE_TYPE_TCP, "
-                  "QORIN_POSE_TYPE_TCP, &qorin_float_t_var);\n",
-                  "qorin_rpc_robot_ext_move_pos_ort_euler_add(0, 0, QORIN_POSE_TYPE_TCP, 1.000000, 2.000000, 3.000000, "
-                  "4.000000, 5.000000, 6.000000, 7.000000);\n",
-                  box_line + ");\n"}),
-              place.calls());
-}
 } // namespace

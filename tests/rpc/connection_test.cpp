@@ -1,9 +1,18 @@
+#include <csignal>
 #include <cstring>
+#include <filesystem>
+#include <set>
+#include <system_error>
+
+#include <pthread.h>
+#include <sys/syscall.h>
+#include <unistd.h>
 
 #include <gtest/gtest.h>
 
 #include "api/internal_shared_data.h"
 #include "qorin/cbox.h"
+#include "qorin/event.h"
 #include "qorin/system.h"
 #include "rpc/cbox_registry.h"
 #include "rpc/qorin_rpc_client.h"
@@ -114,6 +123,65 @@ TEST(connection, getters_read_the_latest_frame_of_their_control_box)
     qorin_api_rpc::set_cur_cbox_id(2);
     EXPECT_EQ(nullptr, qorin_internal_get_shared_data());
     EXPECT_EQ(QORIN_API_RESULT_ERROR_CBOX_ID_INVALID, qorin_cbox_io_digital_input_get(0, &value));
+}
+
+/// The threads of this process.
+std::set<pid_t> threads()
+{
+    std::set<pid_t> found;
+    for (const auto& entry : std::filesystem::directory_iterator("/proc/self/task"))
+        found.insert(std::stoi(entry.path().filename()));
+    return found;
+}
+
+TEST(connection, a_signal_handler_of_the_application_does_not_end_reception)
+{
+    struct sigaction action = {};
+    action.sa_handler = [](int) {};
+    ASSERT_EQ(0, sigaction(SIGUSR1, &action, nullptr)); // without SA_RESTART
+    scripted_cbox box(own_address());
+    const std::set<pid_t> before = threads();
+    unsigned int id = 0;
+    ASSERT_EQ(QORIN_API_RESULT_OK, qorin_api_internal_rpc_system_create(own_address().c_str(), 7700, &id));
+    int receivers = 0;
+    for (const pid_t thread : threads())
+    {
+        if (before.contains(thread))
+            continue;
+        ++receivers;
+        ASSERT_EQ(0, syscall(SYS_tgkill, getpid(), thread, SIGUSR1));
+    }
+    EXPECT_EQ(2, receivers);
+    sigset_t blocked;
+    pthread_sigmask(SIG_SETMASK, nullptr, &blocked);
+    EXPECT_EQ(0, sigismember(&blocked, SIGUSR1)) << "of the thread that connects";
+
+    box.send_event({});
+    box.send_frame(*frame_with_inputs(0x0001));
+    EXPECT_TRUE(eventually([&] { return input(id, 0) == 1; }));
+    char occurred = 0;
+    EXPECT_EQ(QORIN_API_RESULT_OK, qorin_rpc_system_wait_event_group(id, 0, 5000, 0, &occurred));
+    EXPECT_EQ(1, occurred);
+}
+
+TEST(connection, an_id_is_told_and_taken_before_the_receive_threads_start)
+{
+    pthread_attr_t huge;
+    pthread_attr_init(&huge);
+    pthread_attr_setstacksize(&huge, std::size_t{1} << 46);
+    const installation place;
+    scripted_cbox box(own_address());
+    scripted_cbox second(own_address(1));
+    pthread_attr_t usual;
+    ASSERT_EQ(0, pthread_getattr_default_np(&usual));
+    ASSERT_EQ(0, pthread_setattr_default_np(&huge));
+    unsigned int id = 77;
+    EXPECT_THROW((void)qorin_rpc_system_cbox_connect(nullptr, own_address().c_str(), &id), std::system_error);
+    EXPECT_EQ(0u, id);
+    EXPECT_EQ(nullptr, get_cbox(0));
+    ASSERT_EQ(0, pthread_setattr_default_np(&usual));
+    EXPECT_EQ(QORIN_API_RESULT_OK, qorin_api_internal_rpc_system_create(own_address(1).c_str(), 7700, &id));
+    EXPECT_EQ(1u, id);
 }
 
 TEST(connection, frame_borders_are_found_by_counting_alone)

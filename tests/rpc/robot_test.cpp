@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 #include <cstring>
+#include <functional>
 
 #include <gtest/gtest.h>
 
@@ -25,13 +26,6 @@ using test_support::reply_with;
 using test_support::scripted_reply;
 
 constexpr auto robot_id_invalid = QORIN_API_RESULT_ERROR_ROBOT_ID_INVALID;
-
-scripted_reply reply_with_id(std::uint32_t result, std::uint32_t robot_id)
-{
-    scripted_reply reply = reply_with(result);
-    reply.record.value[0] = robot_id;
-    return reply;
-}
 
 /// The mirror of a control box, as its data thread writes it.
 protocol::shared_data_t& mirror(const connected_box& box)
@@ -60,8 +54,13 @@ class robot : public testing::Test
 protected:
     robot() { place.start_logging(); }
 
-    QORIN_API_RESULT create(connected_box& at, scripted_reply reply, QORIN_ROBOT_MODEL model = QORIN_ROBOT_MODEL_ARM_A)
+    QORIN_API_RESULT create(connected_box& at, std::uint32_t id_of_reply,
+                            QORIN_ROBOT_MODEL model = QORIN_ROBOT_MODEL_ARM_A,
+                            std::uint32_t result_of_reply = QORIN_API_RESULT_OK, std::function<void()> before = {})
     {
+        scripted_reply reply = reply_with(result_of_reply);
+        reply.record.value[0] = id_of_reply;
+        reply.before = std::move(before);
         at.will_reply(std::move(reply));
         char text[128] = "text";
         unsigned int id[32] = {99};
@@ -80,14 +79,13 @@ TEST_F(robot, creation_asks_the_box_then_opens_the_module_and_hands_it_the_table
 {
     std::string before_reply = "?";
     std::vector<std::string> at_request;
-    scripted_reply reply = reply_with_id(QORIN_API_RESULT_OK, 1);
-    reply.before = [&]
+    const auto at_the_request = [&]
     {
         before_reply = record.calls();
         at_request = place.calls();
         tell_of_robot(mirror(box), 1, 7);
     };
-    ASSERT_EQ(QORIN_API_RESULT_OK, create(box, reply));
+    ASSERT_EQ(QORIN_API_RESULT_OK, create(box, 1, QORIN_ROBOT_MODEL_ARM_A, QORIN_API_RESULT_OK, at_the_request));
     EXPECT_EQ(1u, created_id);
     EXPECT_EQ("", before_reply);
     EXPECT_EQ(std::vector<std::string>{"qorin_rpc_robot_create(0, QORIN_ROBOT_MODEL_ARM_A, text, 7, &uint32_t_var);\n"},
@@ -106,10 +104,9 @@ TEST_F(robot, creation_asks_the_box_then_opens_the_module_and_hands_it_the_table
 
 TEST_F(robot, creation_gives_a_frame_ten_milliseconds_and_leaves_joints_that_do_not_exist_zero)
 {
-    scripted_reply reply = reply_with_id(QORIN_API_RESULT_OK, 0);
     const auto begin = std::chrono::steady_clock::now();
-    reply.before = [&] { tell_of_robot(mirror(box), 0, 2); };
-    ASSERT_EQ(QORIN_API_RESULT_OK, create(box, reply));
+    tell_of_robot(mirror(box), 0, 2);
+    ASSERT_EQ(QORIN_API_RESULT_OK, create(box, 0));
     EXPECT_GE(std::chrono::steady_clock::now() - begin, std::chrono::milliseconds(10));
     EXPECT_EQ("create 1;model 1 401510;set_dh 1 100,110,0,0,0,0 200,210,0,0,0,0 300,310,0,0,0,0 400,410,0,0,0,0;",
               record.calls());
@@ -118,11 +115,10 @@ TEST_F(robot, creation_gives_a_frame_ten_milliseconds_and_leaves_joints_that_do_
 TEST_F(robot, creation_that_fails_leaves_no_record)
 {
     EXPECT_EQ(QORIN_API_RESULT_WARNING_SYSTEM_ALREADY_CREATED,
-              create(box, reply_with_id(QORIN_API_RESULT_WARNING_SYSTEM_ALREADY_CREATED, 0)));
+              create(box, 0, QORIN_ROBOT_MODEL_ARM_A, QORIN_API_RESULT_WARNING_SYSTEM_ALREADY_CREATED));
     EXPECT_EQ(robot_id_invalid, qorin_internal_robot_common_check(0, nullptr));
 
-    EXPECT_EQ(QORIN_API_RESULT_ROBOT_CLIENT_KINEMATICS_MODULE_LOAD_FAILURE,
-              create(box, reply_with_id(QORIN_API_RESULT_OK, 0), QORIN_ROBOT_MODEL_ARM_D));
+    EXPECT_EQ(QORIN_API_RESULT_ROBOT_CLIENT_KINEMATICS_MODULE_LOAD_FAILURE, create(box, 0, QORIN_ROBOT_MODEL_ARM_D));
     EXPECT_EQ(robot_id_invalid, qorin_internal_robot_common_check(0, nullptr));
     EXPECT_EQ(2u, box.request_count()) << "nothing is undone on the control box";
 
@@ -134,11 +130,13 @@ TEST_F(robot, creation_that_fails_leaves_no_record)
 
 TEST_F(robot, the_id_of_the_reply_counts_also_without_a_variable_for_it)
 {
-    box.will_reply(reply_with_id(QORIN_API_RESULT_OK, 1));
+    scripted_reply reply = reply_with(QORIN_API_RESULT_OK);
+    reply.record.value[0] = 1;
+    box.will_reply(reply);
     EXPECT_EQ(QORIN_API_RESULT_OK, qorin_rpc_robot_create(box.id, QORIN_ROBOT_MODEL_ARM_A, nullptr, 0, nullptr));
     EXPECT_NE(nullptr, api_call_robot_internal_data::get_instance()->get(1));
     // An id that no frame has: the record stands, and every check refuses it.
-    EXPECT_EQ(QORIN_API_RESULT_OK, create(box, reply_with_id(QORIN_API_RESULT_OK, 2)));
+    EXPECT_EQ(QORIN_API_RESULT_OK, create(box, 2));
     EXPECT_NE(nullptr, api_call_robot_internal_data::get_instance()->get(2));
     EXPECT_EQ(robot_id_invalid, qorin_internal_robot_common_check(2, nullptr));
 }
@@ -148,11 +146,11 @@ TEST_F(robot, two_boxes_share_a_record_and_each_creation_writes_the_table)
     connected_box other(1);
     tell_of_robot(mirror(box), 0, 1, 1);
     tell_of_robot(mirror(other), 0, 1, 2);
-    ASSERT_EQ(QORIN_API_RESULT_OK, create(box, reply_with_id(QORIN_API_RESULT_OK, 0)));
+    ASSERT_EQ(QORIN_API_RESULT_OK, create(box, 0));
     const auto* const first = api_call_robot_internal_data::get_instance()->get(0)->kinematics.get();
-    ASSERT_EQ(QORIN_API_RESULT_OK, create(box, reply_with_id(QORIN_API_RESULT_OK, 0)));
+    ASSERT_EQ(QORIN_API_RESULT_OK, create(box, 0));
     // No module serves this model, but it is not asked for.
-    ASSERT_EQ(QORIN_API_RESULT_OK, create(other, reply_with_id(QORIN_API_RESULT_OK, 0), QORIN_ROBOT_MODEL_ARM_D));
+    ASSERT_EQ(QORIN_API_RESULT_OK, create(other, 0, QORIN_ROBOT_MODEL_ARM_D));
     EXPECT_EQ(first, api_call_robot_internal_data::get_instance()->get(0)->kinematics.get());
     const std::string table_1 = "set_dh 1 101,0,0,0,0,0 201,0,0,0,0,0 301,0,0,0,0,0 401,0,0,0,0,0;";
     const std::string table_2 = "set_dh 1 102,0,0,0,0,0 202,0,0,0,0,0 302,0,0,0,0,0 402,0,0,0,0,0;";
@@ -160,9 +158,25 @@ TEST_F(robot, two_boxes_share_a_record_and_each_creation_writes_the_table)
     EXPECT_EQ(3u, place.calls().size()) << "each call is logged anew";
 }
 
+TEST_F(robot, that_another_program_created_is_attached_from_the_mirror_alone)
+{
+    EXPECT_EQ(robot_id_invalid, qorin_robot_attach(1)) << "none stands there";
+    tell_of_robot(mirror(box), 1, 2);
+    mirror(box).robots[1].model_name = QORIN_ROBOT_MODEL_ARM_D;
+    EXPECT_EQ(QORIN_API_RESULT_ROBOT_CLIENT_KINEMATICS_MODULE_LOAD_FAILURE, qorin_robot_attach(1));
+    EXPECT_EQ(robot_id_invalid, qorin_internal_robot_common_check(1, nullptr));
+    mirror(box).robots[1].model_name = QORIN_ROBOT_MODEL_ARM_A;
+    EXPECT_EQ(QORIN_API_RESULT_OK, qorin_robot_attach(1));
+    EXPECT_EQ(QORIN_API_RESULT_OK, qorin_internal_robot_common_check(1, nullptr));
+    EXPECT_EQ("create 1;model 1 401510;set_dh 1 100,110,0,0,0,0 200,210,0,0,0,0 300,310,0,0,0,0 400,410,0,0,0,0;",
+              record.calls());
+    EXPECT_EQ(robot_id_invalid, qorin_robot_attach(2));
+    EXPECT_EQ(0u, box.request_count());
+}
+
 TEST_F(robot, destruction_closes_the_module_when_the_box_agrees)
 {
-    ASSERT_EQ(QORIN_API_RESULT_OK, create(box, reply_with_id(QORIN_API_RESULT_OK, 1)));
+    ASSERT_EQ(QORIN_API_RESULT_OK, create(box, 1));
     record.calls();
     box.will_reply(reply_with(QORIN_API_RESULT_ERROR_YOU_DONT_HAVE_THE_CONTROL));
     EXPECT_EQ(QORIN_API_RESULT_ERROR_YOU_DONT_HAVE_THE_CONTROL, qorin_rpc_robot_destroy(box.id, 1));
@@ -187,7 +201,7 @@ TEST_F(robot, the_end_of_the_process_closes_modules_while_their_static_objects_l
     const auto end_with_a_robot = [&]
     {
         setenv("RECORDING_MODULE_PRINTS", "1", 1);
-        (void)create(box, reply_with_id(QORIN_API_RESULT_OK, 0));
+        (void)create(box, 0);
         box.end(); // an exit leaves no thread of the test behind
         std::exit(0);
     };
@@ -204,7 +218,7 @@ TEST_F(robot, a_table_goes_to_the_box_and_then_to_the_module)
         return qorin_rpc_robot_kinematics_dh_parameter_set(box.id, 0, 6, table[0], table[1], table[2], table[3]);
     };
     EXPECT_EQ(QORIN_API_RESULT_OK, set(QORIN_API_RESULT_OK)) << "without a record the box alone is told";
-    ASSERT_EQ(QORIN_API_RESULT_OK, create(box, reply_with_id(QORIN_API_RESULT_OK, 0)));
+    ASSERT_EQ(QORIN_API_RESULT_OK, create(box, 0));
     record.calls();
     EXPECT_EQ(robot_id_invalid, set(robot_id_invalid));
     EXPECT_EQ("", record.calls());
@@ -295,47 +309,41 @@ TEST(robot_client_getters, answer_what_the_record_has)
 {
     connected_box box;
     test_support::make_robot_present(1);
+    const auto expect = [](QORIN_API_RESULT result, QORIN_SWITCH value, auto getter, unsigned int robot_id)
+    {
+        auto got = static_cast<QORIN_SWITCH>(0);
+        EXPECT_EQ(result, getter(robot_id, &got));
+        EXPECT_EQ(result == QORIN_API_RESULT_OK ? value : static_cast<QORIN_SWITCH>(0), got);
+    };
     const struct
     {
         QORIN_API_RESULT (*getter)(unsigned int, QORIN_SWITCH*);
         QORIN_SWITCH value;
-        bool looks_at_the_mirror;
-    } cases[] = {{qorin_robot_motion_auto_adjust_swith_get, QORIN_SWITCH_OFF, false},
-                 {qorin_robot_ext_move_switch_get, QORIN_SWITCH_OFF, true},
-                 {qorin_robot_ext_move_stop_mode_get, QORIN_SWITCH_ON, true},
-                 {qorin_robot_dynamics_dry_run_state_get, QORIN_SWITCH_OFF, false}};
-    for (const auto& example : cases)
+        QORIN_API_RESULT without_a_frame_of_it; ///< only two of them look at the mirror
+    } cases[] = {{qorin_robot_motion_auto_adjust_swith_get, QORIN_SWITCH_OFF, QORIN_API_RESULT_OK},
+                 {qorin_robot_ext_move_switch_get, QORIN_SWITCH_OFF, robot_id_invalid},
+                 {qorin_robot_ext_move_stop_mode_get, QORIN_SWITCH_ON, robot_id_invalid},
+                 {qorin_robot_dynamics_dry_run_state_get, QORIN_SWITCH_OFF, QORIN_API_RESULT_OK}};
+    for (const auto& [getter, value, without_a_frame_of_it] : cases)
     {
-        const auto untouched = static_cast<QORIN_SWITCH>(0);
-        QORIN_SWITCH value = untouched;
         mirror(box).robot_count = 1;
-        EXPECT_EQ(example.looks_at_the_mirror ? robot_id_invalid : QORIN_API_RESULT_OK, example.getter(1, &value));
-        EXPECT_EQ(example.looks_at_the_mirror ? untouched : example.value, value);
+        expect(without_a_frame_of_it, value, getter, 1);
         mirror(box).robot_count = 2;
-        EXPECT_EQ(QORIN_API_RESULT_OK, example.getter(1, &value));
-        EXPECT_EQ(example.value, value);
-        value = untouched;
-        EXPECT_EQ(robot_id_invalid, example.getter(0, &value));
-        EXPECT_EQ(untouched, value);
+        expect(QORIN_API_RESULT_OK, value, getter, 1);
+        expect(robot_id_invalid, value, getter, 0);
     }
-    QORIN_SWITCH value = QORIN_SWITCH_ON;
-    EXPECT_EQ(QORIN_API_RESULT_OK, qorin_rpc_robot_motion_auto_adjust_swith_get(box.id, 1, &value));
-    EXPECT_EQ(QORIN_SWITCH_OFF, value);
-    EXPECT_EQ(QORIN_API_RESULT_ERROR_CBOX_ID_INVALID, qorin_rpc_robot_motion_auto_adjust_swith_get(9, 1, &value));
-}
+    const auto of_box = [&](unsigned int id, QORIN_SWITCH* out)
+    { return qorin_rpc_robot_motion_auto_adjust_swith_get(id, 1, out); };
+    expect(QORIN_API_RESULT_OK, QORIN_SWITCH_OFF, of_box, box.id);
+    expect(QORIN_API_RESULT_ERROR_CBOX_ID_INVALID, QORIN_SWITCH_OFF, of_box, 9);
 
-TEST(robot_client_getters, recorded_angles_judge_the_robot_and_write_nothing)
-{
-    test_support::make_robot_present(0);
-    double angle = 1.5;
+    double angle = 1.5; // recorded angles judge the robot and write nothing
     for (const unsigned int id : {0u, 1u, 2u})
-    {
-        const QORIN_API_RESULT expected = id == 0 ? QORIN_API_RESULT_OK : robot_id_invalid;
-        EXPECT_EQ(expected, qorin_robot_recording_angle_start_get(id, 3, 9, &angle));
-        EXPECT_EQ(expected, qorin_robot_recording_angle_end_get(id, 3, 9, &angle));
-        EXPECT_EQ(expected, qorin_robot_recording_angle_start_from_file_get(id, "file", 9, &angle));
-        EXPECT_EQ(expected, qorin_robot_recording_angle_end_from_file_get(id, "file", 9, &angle));
-    }
+        for (const QORIN_API_RESULT result : {qorin_robot_recording_angle_start_get(id, 3, 9, &angle),
+                                              qorin_robot_recording_angle_end_get(id, 3, 9, &angle),
+                                              qorin_robot_recording_angle_start_from_file_get(id, "file", 9, &angle),
+                                              qorin_robot_recording_angle_end_from_file_get(id, "file", 9, &angle)})
+            EXPECT_EQ(id == 1 ? QORIN_API_RESULT_OK : robot_id_invalid, result);
     EXPECT_EQ(1.5, angle);
 }
 

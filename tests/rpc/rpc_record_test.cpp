@@ -1,58 +1,31 @@
 #include <array>
 #include <cstring>
-#include <vector>
+#include <numeric>
+#include <utility>
 
+#include <arpa/inet.h>
 #include <gtest/gtest.h>
+#include <sys/socket.h>
+#include <unistd.h>
 
 #include "qorin/system.h"
+#include "rpc/qorin_rpc_client.h"
+#include "rpc/qorin_rpc_event.h"
 #include "rpc/wrapper.h"
+#include "savrent/cc/tcp_client.h"
 #include "tests/rpc/connected_box.h"
+#include "tests/rpc/expected_record.h"
 #include "tests/support/installation.h"
 
 namespace
 {
 using qorin_api_rpc::command;
+using savrent::cc::tcp_client;
 using test_support::connected_box;
+using test_support::expect_record;
 using test_support::reply_with;
+using test_support::room;
 using test_support::scripted_reply;
-
-using record_bytes = std::array<unsigned char, sizeof(protocol::request_record)>;
-
-record_bytes bytes_of(const protocol::request_record& record)
-{
-    record_bytes bytes;
-    std::memcpy(bytes.data(), &record, bytes.size());
-    return bytes;
-}
-
-/// Writes `value` into an expected record, by offset.
-template <class T>
-void put(record_bytes& record, std::size_t offset, const T& value)
-{
-    std::memcpy(record.data() + offset, &value, sizeof(value));
-}
-
-void put_text(record_bytes& record, std::size_t offset, const char* text)
-{
-    std::memcpy(record.data() + offset, text, std::strlen(text) + 1);
-}
-
-/// The first difference, for a readable failure.
-void expect_same(const record_bytes& expected, const record_bytes& actual)
-{
-    for (std::size_t i = 0; i < expected.size(); ++i)
-        ASSERT_EQ(expected[i], actual[i]) << "at offset " << i;
-}
-
-TEST(rpc_record, a_command_without_parameters_is_its_name_and_zeroes)
-{
-    connected_box box;
-    box.will_reply(reply_with(QORIN_API_RESULT_OK));
-    EXPECT_EQ(QORIN_API_RESULT_OK, qorin_rpc_system_control_take(box.id));
-    record_bytes expected = {};
-    put_text(expected, 0, "qorin_system_control_take");
-    expect_same(expected, bytes_of(box.request(0)));
-}
 
 TEST(rpc_record, user_memory_goes_out_slot_by_slot)
 {
@@ -63,16 +36,11 @@ TEST(rpc_record, user_memory_goes_out_slot_by_slot)
     EXPECT_EQ(QORIN_API_RESULT_OK, command<"qorin_set_user_memory">(
                                        box.id, static_cast<const char*>(name), QORIN_USER_DATA_TYPE_STRING, -7,
                                        static_cast<const char*>(text), static_cast<char>(-1), 1.5, 0x1'0000'0001l));
-    record_bytes expected = {};
-    put_text(expected, 0x0000, "qorin_set_user_memory");
-    put(expected, 0x0080, 404002u);
-    put(expected, 0x0084, -7);
-    put(expected, 0x0088, 0xFFFFFFFFu);
-    put(expected, 0x008C, 1u);
-    put(expected, 0x0100, 1.5);
-    put_text(expected, 0x0200, "speed");
-    put_text(expected, 0x0280, "fast");
-    expect_same(expected, bytes_of(box.request(0)));
+    expect_record(box.request(0), {{0, "qorin_set_user_memory"},
+                                   {0x80, {404002u, 0xFFFFFFF9u, 0xFFFFFFFFu, 1u}},
+                                   {0x100, {1.5}},
+                                   {0x200, "speed"},
+                                   {0x280, "fast"}});
 }
 
 TEST(rpc_record, user_memory_comes_back_value_by_value)
@@ -98,12 +66,10 @@ TEST(rpc_record, user_memory_comes_back_value_by_value)
                   output(5, static_cast<long*>(nullptr))));
 
     // Each output takes a block of the request, filled with what it held before.
-    record_bytes expected = {};
-    put_text(expected, 0, "qorin_get_user_memory");
-    put_text(expected, 0x200, "speed");
-    std::memset(expected.data() + 0x280, 0x11, std::size_t{5} * 128);
-    std::memset(expected.data() + 0x1200, 0x11, 128);
-    expect_same(expected, bytes_of(box.request(0)));
+    expect_record(box.request(0), {{0, "qorin_get_user_memory"},
+                                   {0x200, "speed"},
+                                   {0x280, std::string(std::size_t{5} * 128, 0x11)},
+                                   {0x1200, std::string(128, 0x11)}});
 
     // And each gets 4 bytes, or 8 for a double, whatever its own width is.
     const std::uint32_t values[] = {0xA0B0C000, 0xA0B0C001, 0xA0B0C002, 0xA0B0C003, 0, 0xA0B0C004};
@@ -124,48 +90,33 @@ TEST(rpc_record, every_parameter_type_has_its_area_and_width)
 {
     connected_box box;
     box.will_reply(reply_with(QORIN_API_RESULT_OK));
-    double reals[16];
-    unsigned int words[32];
-    unsigned short halves[64];
-    unsigned char bytes[128];
-    double output_reals[16];
-    unsigned short output_halves[64];
-    for (unsigned int i = 0; i < 128; ++i)
-    {
-        bytes[i] = static_cast<unsigned char>(i + 1);
-        halves[i % 64] = static_cast<unsigned short>(0x100 + i % 64);
-        output_halves[i % 64] = static_cast<unsigned short>(0x200 + i % 64);
-        words[i % 32] = 0x10000 + i % 32;
-        reals[i % 16] = 0.5 + i % 16;
-        output_reals[i % 16] = 50.5 + i % 16;
-    }
-    const protocol::request_record sent = [&]
-    {
-        command<"qorin_x">(box.id, 2.25, static_cast<unsigned short>(0xFFFF), static_cast<const double*>(reals),
-                           static_cast<const unsigned int*>(words), static_cast<unsigned char>(0xFE), QORIN_SWITCH_OFF,
-                           static_cast<const unsigned short*>(halves), -3.5, static_cast<double*>(output_reals), -2,
-                           static_cast<const unsigned char*>(bytes), static_cast<unsigned short*>(output_halves),
-                           0xFFFFFFFFu);
-        return box.request(0);
-    }();
-    record_bytes expected = {};
-    put_text(expected, 0, "qorin_x");
-    put(expected, 0x80, 0x0000FFFFu);
-    put(expected, 0x84, 0x000000FEu);
-    put(expected, 0x88, 400101u);
-    put(expected, 0x8C, -2);
-    put(expected, 0x90, 0xFFFFFFFFu);
-    put(expected, 0x100, 2.25);
-    put(expected, 0x108, -3.5);
-    put(expected, 0x200, words);
-    put(expected, 0x280, halves);
-    put(expected, 0x300, bytes);
-    for (unsigned int i = 0; i < 64; ++i)
-        put(expected, 0x380 + 2 * i, static_cast<unsigned short>(0x200 + i));
-    put(expected, 0x1200, reals);
-    for (unsigned int i = 0; i < 16; ++i)
-        put(expected, 0x1280 + 8 * i, 50.5 + i);
-    expect_same(expected, bytes_of(sent));
+    room<double> reals;
+    room<unsigned int> words;
+    room<unsigned short> halves;
+    room<unsigned char> bytes;
+    room<double> output_reals;
+    room<unsigned short> output_halves;
+    std::iota(reals.begin(), reals.end(), 0.5);
+    std::iota(words.begin(), words.end(), 0x10000);
+    std::iota(halves.begin(), halves.end(), 0x100);
+    std::iota(bytes.begin(), bytes.end(), 1);
+    std::iota(output_reals.begin(), output_reals.end(), 50.5);
+    std::iota(output_halves.begin(), output_halves.end(), 0x200);
+    const auto sent_reals = output_reals; // the reply zeroes what has been sent
+    const auto sent_halves = output_halves;
+    command<"qorin_x">(box.id, 2.25, static_cast<unsigned short>(0xFFFF), std::as_const(reals).data(),
+                       std::as_const(words).data(), static_cast<unsigned char>(0xFE), QORIN_SWITCH_OFF,
+                       std::as_const(halves).data(), -3.5, output_reals.data(), -2, std::as_const(bytes).data(),
+                       output_halves.data(), 0xFFFFFFFFu);
+    expect_record(box.request(0), {{0, "qorin_x"},
+                                   {0x80, {0xFFFFu, 0xFEu, 400101u, 0xFFFFFFFEu, 0xFFFFFFFFu}},
+                                   {0x100, {2.25, -3.5}},
+                                   {0x200, words},
+                                   {0x280, halves},
+                                   {0x300, bytes},
+                                   {0x380, sent_halves},
+                                   {0x1200, reals},
+                                   {0x1280, sent_reals}});
 }
 
 TEST(rpc_record, a_block_is_read_128_bytes_far_whatever_the_text_or_array)
@@ -208,7 +159,7 @@ TEST(rpc_record, an_unknown_control_box_touches_nothing_and_sends_nothing)
     EXPECT_EQ(QORIN_API_RESULT_ERROR_CBOX_ID_INVALID, qorin_rpc_system_controllable_get(box.id + 1, controllable));
     EXPECT_EQ(QORIN_SWITCH_ON, controllable[0]);
     EXPECT_EQ(0u, box.request_count());
-    EXPECT_EQ(0, qorin_api_rpc::get_in_param()[0]) << "the record is zeroed before the id is looked at";
+    EXPECT_EQ(0, qorin_api_rpc::get_in_param()->wire_name[0]) << "the record is zeroed before the id is looked at";
 }
 
 TEST(rpc_record, failures_and_warnings_fill_the_outputs_and_write_a_line)
@@ -255,10 +206,73 @@ TEST(rpc_record, a_lost_link_gives_0_and_zeroed_outputs)
     EXPECT_EQ(0u, value[0]);
 }
 
+/// Listens like a control box, and has answered ahead of each request: with the first bytes of a reply and no more.
+class tearing_box
+{
+public:
+    tearing_box()
+    {
+        sockaddr_in local{};
+        local.sin_family = AF_INET;
+        local.sin_port = htons(protocol::control_box_port);
+        inet_pton(AF_INET, address_.c_str(), &local.sin_addr);
+        EXPECT_EQ(0, bind(listener_, reinterpret_cast<sockaddr*>(&local), sizeof(local)));
+        EXPECT_EQ(0, listen(listener_, 3));
+    }
+    ~tearing_box() { close(listener_); }
+
+    /// Runs `work` with a connection under id 0 whose command link ends behind so many bytes of the reply.
+    template <class Work>
+    void tear(const protocol::reply_record& reply, std::size_t sent, Work&& work) const
+    {
+        std::shared_ptr<tcp_client> links[3];
+        int accepted[3];
+        for (std::size_t i = 0; i < 3; ++i)
+        {
+            links[i] = std::make_shared<tcp_client>();
+            ASSERT_TRUE(links[i]->connect_to_server("", address_.c_str(), protocol::control_box_port));
+            accepted[i] = accept(listener_, nullptr, nullptr);
+        }
+        EXPECT_EQ(static_cast<ssize_t>(sent), send(accepted[0], &reply, sent, MSG_NOSIGNAL));
+        for (const int link : accepted)
+            shutdown(link, SHUT_WR);
+        qorin_api_rpc::g_cbox_map->emplace(
+            0, std::make_shared<qorin_api_rpc::qorin_rpc_client>(0, std::make_shared<qorin_api_rpc::qorin_rpc_event>(0),
+                                                                 links[0], links[1], links[2]));
+        work();
+        qorin_api_rpc::g_cbox_map->erase(0);
+        for (const int link : accepted)
+            close(link);
+    }
+
+private:
+    std::string address_ = test_support::own_address();
+    int listener_ = socket(AF_INET, SOCK_STREAM, 0);
+};
+
+TEST(rpc_record, a_torn_reply_is_no_reply)
+{
+    const tearing_box box;
+    protocol::reply_record reply;
+    std::memset(&reply, 0x5A, sizeof(reply));
+    reply.result = QORIN_API_RESULT_OK;
+    for (std::size_t sent = 0; sent < sizeof(reply); ++sent)
+        box.tear(reply, sent,
+                 [&]
+                 {
+                     unsigned int value[32] = {7};
+                     double real[16] = {7.0};
+                     EXPECT_EQ(0u, command<"qorin_x">(0, value + 0, real + 0)) << sent << " bytes";
+                     EXPECT_EQ(0u, value[0]) << sent << " bytes";
+                     EXPECT_EQ(0.0, real[0]) << sent << " bytes";
+                 });
+    EXPECT_EQ(0u, qorin_api_rpc::get_out_param()->reserved[0]) << "nothing of it stays in the record";
+}
+
 TEST(rpc_record, a_reply_may_arrive_in_pieces_and_late)
 {
     connected_box box;
-    for (const std::size_t split : {1u, 0x180u, 511u})
+    for (std::size_t split = 1; split < sizeof(protocol::reply_record); ++split)
     {
         scripted_reply reply = reply_with(QORIN_API_RESULT_OK);
         reply.record.value[0] = QORIN_SWITCH_ON;
@@ -272,26 +286,5 @@ TEST(rpc_record, a_reply_may_arrive_in_pieces_and_late)
     late.delay = std::chrono::milliseconds(2500);
     box.will_reply(late);
     EXPECT_EQ(QORIN_API_RESULT_OK, qorin_rpc_system_reset(box.id)) << "there is no time-out";
-}
-
-TEST(rpc_record, exported_creation_commands_name_model_and_count)
-{
-    connected_box box;
-    box.always_reply(reply_with(QORIN_API_RESULT_OK));
-    const char text[128] = "cell";
-    qorin_rpc_gen_system_create(box.id, text, QORIN_CBOX_MODEL_3GEN);
-    qorin_rpc_gen_multi_robot_system_create(box.id, text, QORIN_CBOX_MODEL_3GEN_SIM, 2);
-
-    record_bytes expected = {};
-    put_text(expected, 0, "qorin_gen_system_create");
-    put(expected, 0x80, 401603u);
-    put_text(expected, 0x200, "cell");
-    expect_same(expected, bytes_of(box.request(0)));
-    expected = {};
-    put_text(expected, 0, "qorin_gen_multi_robot_system_create");
-    put(expected, 0x80, 401605u);
-    put(expected, 0x84, 2u);
-    put_text(expected, 0x200, "cell");
-    expect_same(expected, bytes_of(box.request(1)));
 }
 } // namespace

@@ -1,9 +1,11 @@
 #include <csignal>
 #include <cstring>
 
+#include <dlfcn.h>
 #include <gtest/gtest.h>
 
 #include "qorin/system.h"
+#include "rpc/cbox_registry.h"
 #include "tests/support/installation.h"
 #include "tests/support/loopback.h"
 #include "tests/support/scripted_cbox.h"
@@ -44,6 +46,8 @@ constexpr const char* library_version = "QORIN.v3.008.000.004_U2";
 TEST(system_cbox_connect, opens_the_logs_with_its_own_entry)
 {
     const installation place;
+    EXPECT_EQ(nullptr, qorin_system_control_sw_version_get()) << "without a frame there is nothing to keep";
+    EXPECT_EQ(nullptr, qorin_rpc_system_control_sw_version_get(0));
     versioned_cbox box(own_address(), library_version);
     unsigned int id = 77;
     const auto begin = std::chrono::steady_clock::now();
@@ -54,6 +58,8 @@ TEST(system_cbox_connect, opens_the_logs_with_its_own_entry)
     EXPECT_STREQ(library_version, qorin_rpc_system_control_sw_version_get(id));
     EXPECT_EQ(nullptr, qorin_rpc_system_api_version_get(id + 1));
     EXPECT_EQ(nullptr, qorin_rpc_system_control_sw_version_get(id + 1));
+    qorin_api_rpc::set_cur_cbox_id(id + 1);
+    EXPECT_STREQ(library_version, qorin_system_control_sw_version_get()) << "kept, whatever box is asked later";
 
     box.will_reply(reply_with(QORIN_API_RESULT_OK));
     EXPECT_EQ(QORIN_API_RESULT_OK, qorin_rpc_system_control_take(id));
@@ -111,7 +117,8 @@ TEST(system_cbox_connect, a_missing_configuration_is_told_once_and_then_done_wit
     testing::internal::CaptureStderr();
     EXPECT_EQ(QORIN_API_RESULT_ERROR_CONFIG_FILE_LOAD_FAILURE,
               qorin_rpc_system_cbox_connect(missing.c_str(), own_address().c_str(), &id));
-    EXPECT_EQ("configuration file load fauilure, path: " + missing + "\n", testing::internal::GetCapturedStderr());
+    EXPECT_EQ("configuration file load fauilure, path: " + missing + "\n" + missing + ": cannot open file\n",
+              testing::internal::GetCapturedStderr());
     EXPECT_EQ(77u, id);
 
     versioned_cbox box(own_address(), library_version);
@@ -131,6 +138,29 @@ TEST(system_cbox_connect, needs_neither_a_valid_address_nor_an_id_pointer)
     }
     versioned_cbox box(own_address(), library_version);
     EXPECT_EQ(QORIN_API_RESULT_OK, qorin_rpc_system_cbox_connect(nullptr, own_address().c_str(), nullptr));
+}
+
+TEST(system_cbox_connect, an_unloaded_library_leaves_no_log_open)
+{
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+    GTEST_SKIP() << "what is immortal is lost with the library, which a sanitizer takes for a leak";
+#endif
+    const installation place;
+    versioned_cbox box(own_address(), library_version);
+    void* library = dlopen(QORIN_LIBRARY, RTLD_NOW | RTLD_LOCAL);
+    ASSERT_NE(nullptr, library) << dlerror();
+    const auto connect =
+        reinterpret_cast<decltype(&qorin_rpc_system_cbox_connect)>(dlsym(library, "qorin_rpc_system_cbox_connect"));
+    EXPECT_EQ(QORIN_API_RESULT_OK, connect(nullptr, own_address().c_str(), nullptr));
+    EXPECT_EQ(3u, place.call_records().size());
+    ASSERT_EQ(0, dlclose(library));
+    EXPECT_EQ(nullptr, dlopen(QORIN_LIBRARY, RTLD_NOW | RTLD_NOLOAD)) << "still there";
+    for (const auto& entry : std::filesystem::directory_iterator("/proc/self/fd"))
+    {
+        std::error_code gone;
+        const std::string target = std::filesystem::read_symlink(entry.path(), gone).string();
+        EXPECT_FALSE(target.starts_with(place.directory().string())) << target;
+    }
 }
 
 TEST(system_cbox_connect, throws_without_any_path_to_a_configuration)

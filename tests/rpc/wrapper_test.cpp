@@ -17,11 +17,11 @@ using test_support::installation;
 using test_support::reply_with;
 using test_support::scripted_reply;
 
-TEST(wrapper, makes_the_exported_name_from_the_wire_name)
-{
-    EXPECT_STREQ("qorin_rpc_cbox_reset", qorin_api_rpc::exported_name<"qorin_cbox_reset">.data());
-    EXPECT_STREQ("qorin_rpc_ts_event_echo", qorin_api_rpc::exported_name<"qorin_ts_event_echo">.data());
-}
+static_assert(qorin_api_rpc::may_stand_in("qorin_a_set", "QORIN_API_RESULT qorin_rpc_a_set(unsigned int, double)"));
+static_assert(qorin_api_rpc::may_stand_in("qorin_a_set", "qorin_rpc_a_set(unsigned int)::<lambda()>"));
+static_assert(!qorin_api_rpc::may_stand_in("qorin_a_set", "QORIN_API_RESULT qorin_rpc_a_get(unsigned int, double)"));
+static_assert(!qorin_api_rpc::may_stand_in("qorin_a", "QORIN_API_RESULT qorin_rpc_a_set(unsigned int)"));
+static_assert(!qorin_api_rpc::may_stand_in("qorin_a_set", "QORIN_API_RESULT qorin_rpc_a(unsigned int)"));
 
 TEST(wrapper, writes_the_call_line_before_the_command_is_carried_out)
 {

@@ -8,6 +8,7 @@
 
 #include "simulator/control_box.h"
 #include "tests/simulator/raw_client.h"
+#include "tests/support/loopback.h"
 
 namespace
 {
@@ -48,7 +49,7 @@ protected:
         EXPECT_EQ(event.parameter[0] + 0, 0);
     }
 
-    std::string address = raw::loopback_address();
+    std::string address = test_support::own_address();
     std::vector<raw::client> clients;
     control_box box{{.address = address}};
 };

@@ -9,7 +9,10 @@
 #include <gtest/gtest.h>
 
 #include "simulator/control_box.h"
+#include "simulator/model/stream_sources.h"
 #include "tests/simulator/raw_client.h"
+#include "tests/simulator/robot_commander.h"
+#include "tests/support/loopback.h"
 
 namespace
 {
@@ -18,61 +21,59 @@ using joint_array = robot_state::joint_array;
 
 const auto& first_arm = savrent::kinematics::arm_models()[0];
 
-TEST(joint_follow, covers_a_share_of_the_way_each_cycle_within_speed_and_range)
+TEST(joint_follow, comes_to_its_targets_within_speed_acceleration_and_range)
 {
     robot_state robot(first_arm);
-    const joint_array start = robot.joint_angles();
-    joint_array targets = start;
-    targets[0] += 1;
-    targets[1] -= 100;
+    joint_array targets = robot.joint_angles();
+    targets[0] -= 170;
+    targets[1] -= 1;
     targets[2] += 1000;
-    EXPECT_FALSE(robot.chase(targets)) << "the chaser is off";
-    robot.run_cycle(0.001);
-    EXPECT_EQ(start, robot.joint_angles());
-
-    EXPECT_EQ(QORIN_API_RESULT_OK, robot.set_joint_chaser(QORIN_SWITCH_ON));
-    ASSERT_TRUE(robot.chase(targets));
+    cbox_simulator::chaser_source chaser(targets);
+    double fastest = 0;
+    for (int cycle = 0; cycle < 3000; ++cycle)
+    {
+        robot.command(*chaser.advance({0.001, 0.001}, robot), 0.001);
+        for (std::size_t joint = 0; joint < targets.size(); ++joint)
+        {
+            ASSERT_LE(std::abs(robot.commanded().speeds[joint]), first_arm.joints[joint].speed_max + 1e-6);
+            ASSERT_LE(std::abs(robot.commanded().accelerations[joint]), first_arm.joints[joint].acceleration_max * 1.1);
+        }
+        fastest = std::max(fastest, -robot.commanded().speeds[0]);
+    }
+    EXPECT_NEAR(fastest, first_arm.joints[0].speed_max, 1e-6) << "as fast as it can";
     targets[2] = first_arm.joints[2].angle_max;
-    EXPECT_EQ(targets, robot.commanded().joints);
-    EXPECT_EQ(start, robot.joint_angles());
-    robot.run_cycle(0.001);
-    EXPECT_NEAR(robot.joint_angles()[0] - start[0], 1 - std::exp(-0.05), 1e-12);
-    EXPECT_NEAR(robot.joint_speeds()[0], 1000 * (1 - std::exp(-0.05)), 1e-9);
-    EXPECT_NEAR(robot.joint_angles()[1] - start[1], -first_arm.joints[1].speed_max / 1000, 1e-12);
-    EXPECT_EQ(robot.joint_angles()[3], start[3]);
-
-    const joint_array no_number = {0, 0, 0, 0, 0, std::numeric_limits<double>::quiet_NaN()};
-    EXPECT_FALSE(robot.chase(no_number));
-    for (int cycle = 0; cycle < 2000; ++cycle)
-        robot.run_cycle(0.001);
     EXPECT_EQ(targets, robot.joint_angles());
-    EXPECT_EQ(joint_array{}, robot.joint_speeds());
+    EXPECT_TRUE(robot.rests());
     robot_state put_there(first_arm);
     ASSERT_EQ(QORIN_API_RESULT_OK, put_there.set_joint_angles(targets));
     EXPECT_EQ(put_there.tcp_pose(), robot.tcp_pose());
-    EXPECT_EQ(put_there.tcp_pose(), robot.commanded().tcp);
 }
 
-TEST(joint_follow, a_stop_or_switching_off_leaves_the_arm_where_it_is)
+using chasing_arms = robot_commander;
+
+TEST_F(chasing_arms, come_to_rest_where_they_are_by_a_stop_or_by_switching_off)
 {
-    for (const bool by_switch : {false, true})
+    const joint_array targets = {40, 40, 40, 40, 40, 40};
+    for (const std::uint32_t id : {0u, 1u})
     {
-        robot_state robot(first_arm);
-        EXPECT_FALSE(robot.stop_chasing());
-        (void)robot.set_joint_chaser(QORIN_SWITCH_ON);
-        ASSERT_TRUE(robot.chase({40, 40, 40, 40, 40, 40}));
-        robot.run_cycle(0.01);
+        const bool by_switch = id == 0;
+        const auto& robot = *model.robots().find(id);
+        EXPECT_FALSE(model.chase(id, targets)) << "the chaser is off";
+        EXPECT_EQ(result("robot_joint_chaser_state_set", {{id, 400100}}), 100000u);
+        EXPECT_FALSE(model.chase(id, {0, 0, 0, 0, 0, std::numeric_limits<double>::quiet_NaN()}));
+        ASSERT_TRUE(model.chase(id, targets));
+        pass(0.02);
         const joint_array there = robot.joint_angles();
         if (by_switch)
-            EXPECT_EQ(QORIN_API_RESULT_OK, robot.set_joint_chaser(QORIN_SWITCH_OFF));
+            EXPECT_EQ(result("robot_joint_chaser_state_set", {{id, 400101}}), 100000u);
         else
-            EXPECT_TRUE(robot.stop_chasing());
-        robot.run_cycle(0.01);
-        EXPECT_EQ(there, robot.joint_angles());
-        EXPECT_EQ(there, robot.commanded().joints);
-        EXPECT_EQ(robot.flange_pose(), robot.commanded().flange);
-        EXPECT_EQ(joint_array{}, robot.joint_speeds());
-        EXPECT_EQ(!by_switch, robot.chase(there)) << "after a stop the stream may go on";
+            EXPECT_TRUE(model.motion_of(robot).stop_chasing());
+        pass(1);
+        EXPECT_TRUE(robot.rests());
+        EXPECT_GT(robot.joint_angles()[0], there[0]) << "not in an instant";
+        EXPECT_LT(robot.joint_angles()[0], 39);
+        EXPECT_EQ(robot.moving_state(), QORIN_MOVING_STATE_IDLE);
+        EXPECT_EQ(!by_switch, model.chase(id, there)) << "after a stop the stream may go on";
     }
 }
 
@@ -84,19 +85,12 @@ protected:
     {
         box.start();
         client.emplace(address);
-        auto system = raw::request("qorin_gen_system_create", QORIN_CBOX_MODEL_3GEN_SIM);
-        EXPECT_EQ(QORIN_API_RESULT_OK, client->call(system).result);
+        EXPECT_EQ(QORIN_API_RESULT_OK, client->result_of("qorin_gen_system_create", QORIN_CBOX_MODEL_3GEN_SIM));
         EXPECT_EQ(QORIN_API_RESULT_OK, client->result_of("qorin_system_control_take"));
         EXPECT_EQ(QORIN_API_RESULT_OK, client->result_of("qorin_robot_create", first_arm.model));
+        box.with_model([](auto& model) { model.robots().set_servo(0, QORIN_SWITCH_ON); });
     }
     ~chaser_port() override { close(socket_); }
-
-    std::uint32_t set_state(std::uint32_t robot, std::uint32_t value)
-    {
-        auto request = raw::request("qorin_robot_joint_chaser_state_set", robot);
-        request.value[1] = value;
-        return client->call(request).result;
-    }
 
     void send(std::uint16_t port, std::uint64_t command, const joint_array& targets, std::size_t size = 56)
     {
@@ -131,7 +125,7 @@ protected:
 
     static constexpr std::size_t record = 2608;
     static constexpr std::size_t joint_1 = record + 1896;
-    std::string address = raw::loopback_address();
+    std::string address = test_support::own_address();
     cbox_simulator::control_box box{{address}};
     std::optional<raw::client> client;
 
@@ -139,35 +133,13 @@ private:
     int socket_ = socket(AF_INET, SOCK_DGRAM, 0);
 };
 
-TEST_F(chaser_port, the_command_judges_control_robot_switch_and_motion)
-{
-    raw::client other(address, "127.0.0.2");
-    auto request = raw::request("qorin_robot_joint_chaser_state_set", 0);
-    request.value[1] = QORIN_SWITCH_ON;
-    EXPECT_EQ(100003u, other.call(request).result);
-    EXPECT_EQ(102000u, set_state(1, QORIN_SWITCH_ON));
-    EXPECT_EQ(102007u, set_state(0, 1));
-    const auto move = [&](QORIN_MOVING_STATE state)
-    { box.with_model([&](auto& model) { model.robots().find(0)->set_moving_state(state); }); };
-    move(QORIN_MOVING_STATE_PAUSED);
-    EXPECT_TRUE(frame_tells(record + 76, 400903u));
-    EXPECT_EQ(102034u, set_state(0, QORIN_SWITCH_ON));
-    EXPECT_TRUE(frame_tells(record + 56, 400101u));
-    move(QORIN_MOVING_STATE_STOPPED);
-    EXPECT_EQ(100000u, set_state(0, QORIN_SWITCH_ON));
-    EXPECT_TRUE(frame_tells(record + 56, 400100u));
-    move(QORIN_MOVING_STATE_MOVING);
-    EXPECT_EQ(100000u, set_state(0, QORIN_SWITCH_OFF));
-    EXPECT_TRUE(frame_tells(record + 56, 400101u));
-}
-
 TEST_F(chaser_port, a_robot_that_is_switched_on_follows_its_stream_and_all_else_is_ignored)
 {
     const joint_array targets = {10, 0, 90, 0, 90, 0};
     send(50001, 2, targets);
     EXPECT_TRUE(counted(0, 1)) << "the chaser is off";
 
-    ASSERT_EQ(100000u, set_state(0, QORIN_SWITCH_ON));
+    ASSERT_EQ(100000u, client->call(request("robot_joint_chaser_state_set", {{0, QORIN_SWITCH_ON}})).result);
     send(50002, 2, targets);
     send(50001, 1, targets);
     send(50001, 2, targets, 55);

@@ -9,6 +9,7 @@
 #include <utility>
 
 #include <arpa/inet.h>
+#include <sys/ioctl.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -19,23 +20,13 @@
 /// A client made of nothing but sockets, so that the simulated box is tested against bytes only.
 namespace raw
 {
-/// An address of its own for each test process: the port is fixed, and tests run in parallel.
-inline std::string loopback_address()
-{
-    const auto pid = static_cast<unsigned int>(::getpid());
-    return "127." + std::to_string(64 + ((pid >> 16) & 63)) + '.' + std::to_string((pid >> 8) & 255) + '.' +
-           std::to_string(pid & 255);
-}
-
 inline sockaddr_in endpoint(const std::string& address, std::uint16_t port)
 {
     sockaddr_in result{};
     result.sin_family = AF_INET;
     result.sin_port = htons(port);
     if (::inet_pton(AF_INET, address.c_str(), &result.sin_addr) != 1)
-    {
         throw std::runtime_error("bad address " + address);
-    }
     return result;
 }
 
@@ -49,9 +40,7 @@ public:
         const timeval patience{5, 0};
         ::setsockopt(descriptor_, SOL_SOCKET, SO_RCVTIMEO, &patience, sizeof patience);
         if (receive_buffer != 0)
-        {
             ::setsockopt(descriptor_, SOL_SOCKET, SO_RCVBUF, &receive_buffer, sizeof receive_buffer);
-        }
         const auto local = endpoint(from, 0);
         const auto remote = endpoint(box, protocol::control_box_port);
         if (::bind(descriptor_, reinterpret_cast<const sockaddr*>(&local), sizeof local) != 0 ||
@@ -69,9 +58,7 @@ public:
     void close()
     {
         if (descriptor_ != -1)
-        {
             ::close(std::exchange(descriptor_, -1));
-        }
     }
 
     [[nodiscard]] bool send(const void* bytes, std::size_t size)
@@ -84,6 +71,16 @@ public:
     [[nodiscard]] bool receive(Record& record)
     {
         return ::recv(descriptor_, &record, sizeof record, MSG_WAITALL) == static_cast<ssize_t>(sizeof record);
+    }
+
+    /// The last of the records that have arrived whole; false when there is none.
+    template <class Record>
+    [[nodiscard]] bool receive_last_arrived(Record& record)
+    {
+        bool found = false;
+        for (int bytes = 0; ::ioctl(descriptor_, FIONREAD, &bytes) == 0 && bytes >= static_cast<int>(sizeof record);)
+            found = receive(record);
+        return found;
     }
 
     /// Reads on to the end of the stream. False when it does not come.
@@ -121,9 +118,7 @@ struct client
     {
         protocol::reply_record reply{};
         if (!command.send(&record, sizeof record) || !command.receive(reply))
-        {
             std::memset(&reply, 0, sizeof reply);
-        }
         return reply;
     }
 
@@ -143,9 +138,7 @@ inline bool comes_true(const std::function<bool()>& condition)
     for (int attempt = 0; attempt < 1000; ++attempt)
     {
         if (condition())
-        {
             return true;
-        }
         ::usleep(5000);
     }
     return false;

@@ -9,9 +9,10 @@
 #include <gtest/gtest.h>
 
 #include "api/api_call_logger.h"
+#include "savrent/cc/diagnostics.h"
 #include "savrent/cc/encrypt.h"
 #include "savrent/cc/system_config_parser.h"
-#include "tools/qorin_log/log_files.h"
+#include "tools/log_reader/log_files.h"
 
 namespace test_support
 {
@@ -27,6 +28,7 @@ installation::installation(const std::string& print_out, const std::string& log_
                                   "\nkinematics_path=./kin\n[server]\nlog_trans=" + log_trans +
                                   "\n[common]\ntransfer_protocol=tcp\n");
     setenv("SAVRENT_V3", directory_.c_str(), 1);
+    savrent::cc::start_diagnostics();
 }
 
 installation::~installation()

@@ -200,7 +200,7 @@ void scripted_cbox::serve_commands()
         const auto bytes = bytes_of(reply.record);
         send_all(descriptor, bytes.first(reply.split_at));
         if (reply.split_at != 0)
-            std::this_thread::sleep_for(50ms);
+            std::this_thread::sleep_for(1ms);
         send_all(descriptor, bytes.subspan(reply.split_at));
     }
 }

@@ -9,7 +9,7 @@
 #include <unistd.h>
 
 #include "savrent/cc/encrypt.h"
-#include "tools/qorin_log/log_printer.h"
+#include "tools/log_reader/log_printer.h"
 
 namespace
 {

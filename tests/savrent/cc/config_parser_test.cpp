@@ -38,16 +38,24 @@ TEST(config_parser, takes_the_installation_directory_for_a_null_path)
     EXPECT_THROW(homeless.load_file(nullptr), std::logic_error);
 }
 
-TEST(config_parser, names_the_path_that_it_could_not_load)
+TEST(config_parser, says_which_file_it_could_not_load_and_why)
 {
     const installation place;
     write_file(place.directory() / "twice.ini", "[client]\nkey=1\nkey=2\n");
-    for (const std::string path : {place.directory() / "missing.ini", place.directory() / "twice.ini"})
+    write_file(place.directory() / "bare.ini", "[client]\n\nlog_save_path\n");
+    const std::pair<const char*, const char*> cases[] = {
+        {"missing.ini", ": cannot open file"},
+        {"twice.ini", "(3): duplicate key name"},
+        {"bare.ini", "(3): '=' character not found in line"},
+    };
+    for (const auto& [name, reason] : cases)
     {
+        const std::string path = place.directory() / name;
         config_parser parser;
         testing::internal::CaptureStderr();
         EXPECT_FALSE(parser.load_file(path.c_str()));
-        EXPECT_EQ("configuration file load fauilure, path: " + path + "\n", testing::internal::GetCapturedStderr());
+        EXPECT_EQ("configuration file load fauilure, path: " + path + "\n" + path + reason + "\n",
+                  testing::internal::GetCapturedStderr());
         EXPECT_FALSE(parser.is_loaded());
     }
 }

@@ -1,5 +1,6 @@
 #include <arpa/inet.h>
 #include <fcntl.h>
+#include <poll.h>
 #include <sys/resource.h>
 #include <sys/socket.h>
 #include <unistd.h>
@@ -41,18 +42,25 @@ struct socket_pair
     int peer = -1;
 };
 
-TEST(tcp_client, connects_once)
+/// Takes connections into its backlog, at a port that was free.
+struct listening_socket
 {
-    test_support::scripted_cbox box(own_address());
-    tcp_client client;
-    ASSERT_TRUE(client.connect_to_server("", own_address().c_str(), 7700));
-    EXPECT_FALSE(client.connect_to_server("", own_address().c_str(), 7700));
-    ASSERT_TRUE(box.wait_for_links(1));
-    EXPECT_EQ(0, client.close_socket());
-    EXPECT_TRUE(client.connect_to_server("", own_address().c_str(), 7700));
-}
+    explicit listening_socket(const std::string& address)
+    {
+        sockaddr_in local{AF_INET, 0, {inet_addr(address.c_str())}, {}};
+        socklen_t size = sizeof(local);
+        EXPECT_EQ(0, bind(descriptor, reinterpret_cast<sockaddr*>(&local), size));
+        EXPECT_EQ(0, listen(descriptor, 8));
+        EXPECT_EQ(0, getsockname(descriptor, reinterpret_cast<sockaddr*>(&local), &size));
+        port = ntohs(local.sin_port);
+    }
+    ~listening_socket() { close(descriptor); }
 
-TEST(tcp_client, a_failed_object_is_usable_again_only_after_closing)
+    const int descriptor = socket(AF_INET, SOCK_STREAM, 0);
+    unsigned short port = 0;
+};
+
+TEST(tcp_client, connects_once_and_again_only_after_closing)
 {
     tcp_client client;
     testing::internal::CaptureStderr();
@@ -60,25 +68,31 @@ TEST(tcp_client, a_failed_object_is_usable_again_only_after_closing)
     EXPECT_EQ("Connection Failed\n", testing::internal::GetCapturedStderr());
 
     test_support::scripted_cbox box(own_address());
-    EXPECT_FALSE(client.connect_to_server("", own_address().c_str(), 7700));
-    client.close_socket();
-    EXPECT_TRUE(client.connect_to_server("", own_address().c_str(), 7700));
+    for (const char* refused : {"failed", "connected"})
+    {
+        EXPECT_FALSE(client.connect_to_server("", own_address().c_str(), 7700)) << refused;
+        EXPECT_EQ(0, client.close_socket());
+        EXPECT_TRUE(client.connect_to_server("", own_address().c_str(), 7700)) << refused;
+    }
 }
 
 TEST(tcp_client, reports_a_malformed_address_in_its_own_lines)
 {
     const test_support::installation place("on");
     ASSERT_TRUE(savrent::cc::system_config_parser::get_instance()->load_file(nullptr));
-    for (const char* address : {"300.0.0.1", "", static_cast<const char*>(nullptr)})
+    const listening_socket this_machine("127.0.0.1"); // which a malformed address must not be taken for
+    for (const char* address : {"localhost", "300.0.0.1", "", static_cast<const char*>(nullptr)})
     {
         tcp_client client;
         testing::internal::CaptureStdout();
         testing::internal::CaptureStderr();
-        EXPECT_FALSE(client.connect_to_server("", address, 7701));
+        EXPECT_FALSE(client.connect_to_server("", address, this_machine.port));
         EXPECT_EQ("Invalid address / Address not supported\nConnection Failed\n",
                   testing::internal::GetCapturedStdout());
         EXPECT_EQ("Connection Failed\n", testing::internal::GetCapturedStderr());
     }
+    pollfd reached{this_machine.descriptor, POLLIN, 0};
+    EXPECT_EQ(0, poll(&reached, 1, 0));
 }
 
 TEST(tcp_client, reads_exactly_or_fails)
@@ -95,12 +109,6 @@ TEST(tcp_client, reads_exactly_or_fails)
     pair.close_peer();
     EXPECT_EQ(-1, pair.client->tcp_read(buffer, 8));
     EXPECT_EQ(0, std::memcmp(buffer, "ef", 2)) << "what did arrive stays in the buffer";
-}
-
-TEST(tcp_client, is_not_ready_for_a_second_without_bytes)
-{
-    socket_pair pair;
-    EXPECT_FALSE(pair.client->tcp_read_ready());
 }
 
 TEST(tcp_client, waits_on_descriptors_beyond_the_reach_of_select)
@@ -147,6 +155,29 @@ TEST(tcp_client, cuts_a_client_address_that_does_not_fit)
     EXPECT_EQ(std::string(31, 'a'), address);
 }
 
+TEST(sockets, are_not_inherited_and_stand_for_no_standard_stream)
+{
+    const listening_socket peer(own_address());
+    const int free_descriptor = dup(STDERR_FILENO);
+    ASSERT_EQ(0, close(free_descriptor));
+    ASSERT_EQ(0, close(STDIN_FILENO));
+    const auto expect_own_descriptor = [&](const char* whose)
+    {
+        EXPECT_EQ(-1, fcntl(STDIN_FILENO, F_GETFD)) << whose;
+        EXPECT_EQ(FD_CLOEXEC, fcntl(free_descriptor, F_GETFD)) << whose;
+    };
+    tcp_client client;
+    ASSERT_TRUE(client.connect_to_server("", own_address().c_str(), peer.port));
+    expect_own_descriptor("client");
+    EXPECT_EQ(3, client.tcp_write(reinterpret_cast<const unsigned char*>("abc"), 3));
+    EXPECT_EQ(0, client.close_socket());
+    udp datagrams;
+    ASSERT_EQ(0, datagrams.init(own_address().c_str(), 0, nullptr, 0));
+    expect_own_descriptor("datagrams");
+    datagrams.close();
+    EXPECT_EQ(-1, fcntl(free_descriptor, F_GETFD));
+}
+
 TEST(udp, sends_to_its_fixed_remote_address)
 {
     udp receiver;
@@ -161,12 +192,8 @@ TEST(udp, sends_to_its_fixed_remote_address)
     EXPECT_EQ(0, receiver.recv(buffer, -5)) << "no length bounds the waiting datagram then";
     EXPECT_EQ(5, receiver.recv(buffer, 5));
     EXPECT_EQ("abcde", std::string(buffer, 5));
-}
-
-TEST(udp, has_nowhere_to_send_without_a_remote_port)
-{
-    udp sender;
-    ASSERT_EQ(0, sender.init(own_address().c_str(), 0, own_address().c_str(), 0));
-    EXPECT_EQ(0, sender.send("abc", 3));
+    udp nowhere;
+    ASSERT_EQ(0, nowhere.init(own_address().c_str(), 0, own_address().c_str(), 0));
+    EXPECT_EQ(0, nowhere.send("abc", 3)) << "there is no remote port";
 }
 } // namespace

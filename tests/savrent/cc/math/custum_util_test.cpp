@@ -226,22 +226,16 @@ TEST(bspline, passes_through_its_control_points_smoothly)
     random_source random;
     std::vector<vector3> control(6);
     for (vector3& point : control)
-    {
         point = random.vector();
-    }
     constexpr std::size_t per_span = 200;
     std::vector<vector3> points(5 * per_span + 1);
     ASSERT_TRUE(robot::get_points_by_bspline(control, points));
     for (std::size_t i = 0; i < control.size(); ++i)
-    {
         EXPECT_TRUE(close(points[i * per_span], control[i])) << i;
-    }
     const double h = 1.0 / per_span;
     const auto second = [&](std::size_t i) { return (points[i + 1] - points[i] * 2.0 + points[i - 1]) / (h * h); };
     for (std::size_t i = 2; i + 1 < points.size(); ++i)
-    {
         EXPECT_LT((second(i) - second(i - 1)).length(), 100.0 * h) << "the curvature does not jump at " << i;
-    }
     EXPECT_LT(second(1).length(), 100.0 * h) << "not bent at its end";
     const std::vector<vector3> line = {{0, 0, 0}, {3, 0, 0}};
     std::vector<vector3> thirds(4);

@@ -22,7 +22,7 @@ namespace math = savrent::cc::math;
 
 constexpr int rounds = 500;
 
-/** Values that are the same in every run; one source for each test. */
+/// Values that are the same in every run; one source for each test.
 class random_source
 {
 public:
@@ -46,12 +46,8 @@ public:
     {
         math::matrix4 m;
         for (std::size_t r = 0; r < 4; ++r)
-        {
             for (std::size_t c = 0; c < 4; ++c)
-            {
                 m[r][c] = number();
-            }
-        }
         return m;
     }
     math::matrix4 affine()
@@ -90,16 +86,14 @@ inline Eigen::Matrix4d reference(const math::matrix4& m)
     return Eigen::Map<const Eigen::Matrix<double, 4, 4, Eigen::RowMajor>>(m[0]);
 }
 
-/** Compares by element, relative to the size of what is expected, and prints both. */
+/// Compares by element, relative to the size of what is expected, and prints both.
 template <typename Actual, typename Expected>
 testing::AssertionResult close(const Actual& actual, const Expected& expected, double tolerance = 1e-12)
 {
     const auto value = reference(actual);
     const double error = (value - expected).cwiseAbs().maxCoeff();
     if (error <= tolerance * (1.0 + expected.cwiseAbs().maxCoeff()))
-    {
         return testing::AssertionSuccess();
-    }
     return testing::AssertionFailure() << "got\n" << value << "\nexpected\n" << expected << "\nerror " << error;
 }
 inline testing::AssertionResult close(const math::vector3& actual, const math::vector3& expected,

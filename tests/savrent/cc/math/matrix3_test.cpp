@@ -10,13 +10,6 @@ using math::vector3;
 
 namespace
 {
-matrix3 plain_rotation(std::size_t axis, const radian& turn)
-{
-    matrix3 m;
-    m.FromAngleAxis(axis == 0 ? vector3::UNIT_X : (axis == 1 ? vector3::UNIT_Y : vector3::UNIT_Z), turn);
-    return m;
-}
-
 struct euler_order
 {
     const char* name;
@@ -34,13 +27,11 @@ const euler_order euler_orders[] = {
     {"ZYX", {2, 1, 0}, &matrix3::FromEulerAnglesZYX, &matrix3::ToEulerAnglesZYX},
 };
 
-/** A random matrix of a rank: 3, or sums of fewer products. */
+/// A random matrix of a rank: 3, or sums of fewer products.
 matrix3 matrix_of_rank(random_source& random, int rank)
 {
     if (rank == 3)
-    {
         return random.matrix();
-    }
     matrix3 sum = matrix3::ZERO;
     for (int i = 0; i < rank; ++i)
     {
@@ -109,7 +100,6 @@ TEST(matrix3, euler_angles_are_products_in_the_order_of_the_name)
             matrix3 m;
             (m.*order.from)(a, b, c);
             const auto& axes = order.axes;
-            EXPECT_TRUE(close(m, plain_rotation(axes[0], a) * plain_rotation(axes[1], b) * plain_rotation(axes[2], c)));
             const auto axis = [](std::size_t k) { return Eigen::Vector3d::Unit(static_cast<Eigen::Index>(k)); };
             const Eigen::Matrix3d expected = (Eigen::AngleAxisd(a.valueRadians(), axis(axes[0])) *
                                               Eigen::AngleAxisd(b.valueRadians(), axis(axes[1])) *
@@ -209,9 +199,7 @@ TEST(matrix3, symmetric_eigenvalues_agree_with_the_reference)
         matrix3 a = matrix_of_rank(random, 3 - i % 4);
         a = a + a.Transpose();
         if (i % 5 == 0)
-        {
             a[0][2] = a[2][0] = 0.0; // tridiagonal from the start
-        }
         SCOPED_TRACE(testing::PrintToString(a));
         double values[3];
         vector3 vectors[3];

@@ -19,9 +19,7 @@ TEST(matrix4, agrees_with_the_reference)
         const matrix4 b = random.matrix_4();
         const vector3 v = random.vector();
         const vector4 h(v.x, v.y, v.z, random.number());
-        std::ostringstream input;
-        input << a << b << h;
-        SCOPED_TRACE(input.str());
+        SCOPED_TRACE(testing::Message() << a << b << h);
         const Eigen::Matrix4d ea = reference(a);
         const Eigen::Matrix4d eb = reference(b);
         EXPECT_TRUE(close(a * b, (ea * eb).eval()));
@@ -45,9 +43,7 @@ TEST(matrix4, affine_forms_agree_with_the_general_ones)
         const matrix4 a = random.affine();
         const matrix4 b = random.affine();
         const vector3 v = random.vector();
-        std::ostringstream input;
-        input << a << b << v;
-        SCOPED_TRACE(input.str());
+        SCOPED_TRACE(testing::Message() << a << b << v);
         EXPECT_TRUE(close(a.inverseAffine(), reference(a).inverse().eval(), 1e-9));
         EXPECT_TRUE(close(a.concatenateAffine(b), reference(a * b)));
         EXPECT_TRUE(close(a.transformAffine(v), a * v));

@@ -18,9 +18,7 @@ TEST(quaternion, agrees_with_the_reference_on_rotations)
         const quaternion p = random.rotation();
         const quaternion q = random.rotation();
         const vector3 v = random.vector();
-        std::ostringstream input;
-        input << p << q << v;
-        SCOPED_TRACE(input.str());
+        SCOPED_TRACE(testing::Message() << p << q << v);
         const Eigen::Quaterniond product = turn(p) * turn(q);
         EXPECT_TRUE(close(p * q, Eigen::Vector4d(product.w(), product.x(), product.y(), product.z())));
         EXPECT_TRUE(close(p * v, (turn(p) * reference(v)).eval()));

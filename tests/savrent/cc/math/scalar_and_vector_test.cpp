@@ -41,7 +41,7 @@ struct fixed_provider : util::randomValueProvider
     double getRandomUnit() override { return value; }
 };
 
-/** Puts the process-wide settings back. */
+/// Puts the process-wide settings back.
 struct process_settings : testing::Test
 {
     ~process_settings() override
@@ -190,9 +190,7 @@ TEST(vectors, keep_their_behaviour_at_the_edges)
                 {{2, -2, 1}, vector3::NEGATIVE_UNIT_Y}, {{2, 2, 2}, vector3::UNIT_Z},
                 {{2, 1, 2}, vector3::UNIT_Z},           {{0, 0, 0}, vector3::NEGATIVE_UNIT_Z}};
     for (const auto& row : axes)
-    {
         EXPECT_EQ(row.v.primaryAxis(), row.axis) << row.v;
-    }
 }
 
 TEST_F(process_settings, opposite_vectors_turn_about_a_chosen_axis)

@@ -100,15 +100,11 @@ TEST(axis_aligned_box, corners_and_transforms_agree)
         box.merge(random.vector());
         box.merge(random.vector());
         const math::matrix4 m = random.affine();
-        std::ostringstream input;
-        input << box << m;
-        SCOPED_TRACE(input.str());
+        SCOPED_TRACE(testing::Message() << box << m);
         axisAlignedBox hull;
         const vector3* const corners = box.getAllCorners();
         for (int k = 0; k < 8; ++k)
-        {
             hull.merge(m * corners[k]);
-        }
         axisAlignedBox transformed = box;
         transformed.transform(m);
         EXPECT_EQ(transformed, hull);
@@ -118,9 +114,7 @@ TEST(axis_aligned_box, corners_and_transforms_agree)
     }
     const vector3 corners[] = {{0, 0, 0}, {0, 1, 0}, {1, 1, 0}, {1, 0, 0}, {1, 1, 1}, {0, 1, 1}, {0, 0, 1}, {1, 0, 1}};
     for (unsigned int k = 0; k < 8; ++k)
-    {
         EXPECT_EQ(unit_box.getCorner(static_cast<axisAlignedBox::CornerEnum>(k)), corners[k]) << k;
-    }
     EXPECT_EQ(axisAlignedBox(1, 1, 1, 2, 2, 2).getCorner(static_cast<axisAlignedBox::CornerEnum>(8)), vector3::ZERO);
     axisAlignedBox copy = unit_box;
     EXPECT_NE(copy.getAllCorners(), unit_box.getAllCorners()) << "each box owns its corners";
