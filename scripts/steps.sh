@@ -7,7 +7,7 @@ current_step=start
 trap 'echo "$script: failed in step: $current_step" >&2' ERR
 
 # Objects are kept between builds and between clones, so that only what changed is compiled.
-export CMAKE_C_COMPILER_LAUNCHER=ccache CMAKE_CXX_COMPILER_LAUNCHER=ccache
+export CMAKE_C_COMPILER_LAUNCHER=$PWD/scripts/compiler_cache CMAKE_CXX_COMPILER_LAUNCHER=$PWD/scripts/compiler_cache
 export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1 CCACHE_SLOPPINESS=pch_defines,time_macros
 
 step() {
