@@ -1,4 +1,4 @@
-# Warnings, sanitizers and include paths that every target of this project has.
+# Warnings, hardening, sanitizers and include paths that every target of this project has.
 add_library(qorin_flags INTERFACE)
 target_compile_options(qorin_flags INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -fno-semantic-interposition)
 if(QORIN_WARNINGS_AS_ERRORS)
@@ -13,3 +13,33 @@ if(QORIN_SANITIZE)
   target_link_options(qorin_flags INTERFACE -fsanitize=${qorin_sanitizers})
 endif()
 target_include_directories(qorin_flags INTERFACE ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/include)
+
+option(QORIN_HARDENING "Guard stack, calls and tables of addresses at run time" ON)
+if(QORIN_HARDENING AND NOT QORIN_SANITIZE) # a sanitizer sees more
+  # What the optimiser makes cheap, and a debugger is better without. Some compilers define the last by themselves.
+  set(qorin_guards -fstack-protector-strong)
+  if(CMAKE_SYSTEM_PROCESSOR MATCHES "x86_64|AMD64")
+    list(APPEND qorin_guards -fcf-protection)
+  endif()
+  list(APPEND qorin_guards -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2)
+  target_compile_options(qorin_flags INTERFACE "$<$<NOT:$<CONFIG:Debug>>:${qorin_guards}>")
+  target_link_options(qorin_flags INTERFACE LINKER:-z,relro LINKER:-z,now LINKER:-z,noexecstack)
+endif()
+
+# The same bytes from whatever directory: names of files are told from the top of the source, whether they reach the
+# compiler as absolute ones or, from a compiler cache, as seen from the build directory; those in the build directory are
+# told from there. The last that fits holds. How the compiler was called differs with a cache, and is not told. A debugger
+# wants the true names.
+file(RELATIVE_PATH qorin_source_from_build ${CMAKE_BINARY_DIR} ${PROJECT_SOURCE_DIR})
+set(qorin_prefix_maps -gno-record-gcc-switches -ffile-prefix-map=${PROJECT_SOURCE_DIR}=.)
+if(qorin_source_from_build)
+  string(REGEX REPLACE "/$" "" qorin_source_from_build ${qorin_source_from_build})
+  list(APPEND qorin_prefix_maps -ffile-prefix-map=${qorin_source_from_build}=.)
+endif()
+list(APPEND qorin_prefix_maps -ffile-prefix-map=${CMAKE_BINARY_DIR}=./build -ffile-prefix-map=${CMAKE_BINARY_DIR}/=)
+target_compile_options(qorin_flags INTERFACE "$<$<NOT:$<CONFIG:Debug>>:${qorin_prefix_maps}>")
+
+# For what does each thing once: most of its building time would go into optimising.
+function(qorin_build_fast target)
+  target_compile_options(${target} PRIVATE "$<$<NOT:$<CONFIG:Debug>>:-O0;-U_FORTIFY_SOURCE>")
+endfunction()
