@@ -24,3 +24,7 @@ add_custom_target(docs
   COMMAND Doxygen::doxygen ${PROJECT_BINARY_DIR}/docs/Doxyfile
   COMMAND ${CMAKE_COMMAND} -E echo "guide and reference: ${PROJECT_BINARY_DIR}/docs/html/index.html"
   VERBATIM)
+if(QORIN_INSTALL)
+  # Only where it was made: it is no part of `all`.
+  install(DIRECTORY ${PROJECT_BINARY_DIR}/docs/html DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documentation OPTIONAL)
+endif()

@@ -30,7 +30,7 @@ install(DIRECTORY savrent/cc/math DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/savren
 install(FILES README.md CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development)
 install(DIRECTORY examples DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development)
 install(DIRECTORY docs DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development
-        FILES_MATCHING PATTERN "*.md" PATTERN "*.png")
+        FILES_MATCHING PATTERN "*.md" PATTERN "*.png" PATTERN "*.svg" PATTERN site EXCLUDE PATTERN man EXCLUDE)
 
 configure_package_config_file(cmake/qorin_api_rpc_client-config.cmake.in
                               ${PROJECT_BINARY_DIR}/share/qorin_api_rpc_client-config.cmake
