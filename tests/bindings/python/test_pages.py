@@ -1,4 +1,4 @@
-"""What users copy: the examples, and the page of the guide, whose blocks are one program."""
+"""What users copy: the examples, and the pages of the guide, on each of which the blocks are one program."""
 import pathlib
 import re
 
@@ -29,11 +29,12 @@ def test_examples_run(python, simulator, tmp_path):
         assert status == 1 and "101000" in told and "Traceback" not in told
 
 
-def test_the_blocks_of_the_guide_print_what_it_shows(python, simulator, tmp_path):
-    page = (ROOT / "docs/guide/python.md").read_text()
-    blocks = re.findall(r"^```(python|text)\n(.*?)^```", page, re.DOTALL | re.MULTILINE)
-    program = "\n".join(text for kind, text in blocks if kind == "python")
+@pytest.mark.parametrize("page", ["python.md", "four_ways.md"])
+def test_the_blocks_of_the_guide_print_what_it_shows(python, simulator, tmp_path, page):
+    text = (ROOT / "docs/guide" / page).read_text()
+    blocks = re.findall(r"^```python\n(.*?)^```(?:\n+```text\n(.*?)^```)?", text, re.DOTALL | re.MULTILINE)
+    program = "\n".join(block for block, _ in blocks)
     (tmp_path / "page.py").write_text(program.replace("127.0.0.1", simulator.address))
     told, status = python(tmp_path / "page.py")
     assert (told.replace(simulator.address, "127.0.0.1"), status) == \
-        ("".join(text for kind, text in blocks if kind == "text"), 0)
+        ("".join(shown for _, shown in blocks), 0)
