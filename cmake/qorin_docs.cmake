@@ -22,6 +22,7 @@ add_custom_target(docs
   COMMAND ${CMAKE_COMMAND} -E rm -rf ${PROJECT_BINARY_DIR}/docs/html
   COMMAND Python3::Interpreter ${PROJECT_SOURCE_DIR}/docs/site/make_pages ${PROJECT_SOURCE_DIR} ${QORIN_PAGES}
   COMMAND Doxygen::doxygen ${PROJECT_BINARY_DIR}/docs/Doxyfile
+  COMMAND Python3::Interpreter ${PROJECT_SOURCE_DIR}/docs/site/make_search ${QORIN_PAGES} ${PROJECT_BINARY_DIR}/docs/html
   COMMAND ${CMAKE_COMMAND} -E echo "guide and reference: ${PROJECT_BINARY_DIR}/docs/html/index.html"
   VERBATIM)
 if(QORIN_INSTALL)
