@@ -19,7 +19,7 @@ using Eigen::Vector3d;
 constexpr std::size_t faces[6][3] = {{0, 1, 2}, {4, 5, 6}, {0, 1, 5}, {1, 2, 6}, {2, 3, 7}, {3, 0, 4}};
 constexpr std::size_t corner_count = 8;
 /// Of the size of a box: what rounding may put a corner beyond a face.
-constexpr double rounding = 1e-9;
+constexpr double corner_tolerance = 1e-9;
 
 Vector3d vector_at(const bounding_shape& shape, std::size_t index)
 {
@@ -54,10 +54,10 @@ bool is_box(const bounding_shape& told)
 {
     const Vector3d centre = centre_of_box(told);
     const double size = (vector_at(told, 0) - centre).norm();
-    if (!(outside_box(told, centre) < -rounding * size))
+    if (!(outside_box(told, centre) < -corner_tolerance * size))
         return false;
     for (std::size_t corner = 0; corner < corner_count; ++corner)
-        if (!(outside_box(told, vector_at(told, 3 * corner)) <= rounding * size))
+        if (!(outside_box(told, vector_at(told, 3 * corner)) <= corner_tolerance * size))
             return false;
     return true;
 }

@@ -31,7 +31,7 @@ bool are_near(const motion::motion_sample& a, const motion::motion_sample& b)
 
 /// Seconds into the motion as a moment that a milestone of the same time, computed otherwise, does not miss by
 /// rounding.
-constexpr double rounding = 1e-9;
+constexpr double plan_tolerance = 1e-9;
 } // namespace
 
 run_plan plan_run(const std::vector<run_entry>& entries, const robot_state& robot)
@@ -145,9 +145,9 @@ std::optional<motion_source::joint_array> command_run::advance(const passing_tim
     begun_ = true;
     taken_ += time.clock;
     time_ += time.motion;
-    if (planned_.duration() - time_ < rounding)
+    if (planned_.duration() - time_ < plan_tolerance)
         time_ = planned_.duration();
-    while (next_ < milestones_.size() && milestones_[next_].time <= time_ + rounding)
+    while (next_ < milestones_.size() && milestones_[next_].time <= time_ + plan_tolerance)
         reach(milestones_[next_++], robot);
     auto sample = planned_.at(time_);
     path_speed_ = sample.path_speed;

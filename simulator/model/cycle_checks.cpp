@@ -10,7 +10,7 @@ namespace cbox_simulator
 namespace
 {
 /// What rounding may put a joint beyond its range that is commanded to the very end of it. Degrees.
-constexpr double rounding = 1e-6;
+constexpr double range_tolerance = 1e-6;
 /// What a motion that is planned for a limit may go beyond it between two cycles.
 constexpr double tolerance = 1.001;
 
@@ -22,8 +22,8 @@ violation joint_range(const cycle_step& step)
         const auto range = step.robot.range_of(joint);
         const double before = step.robot.commanded().joints[joint];
         const double next = step.next.joints[joint];
-        if ((next > range.angle_max + rounding && next > before) ||
-            (next < range.angle_min - rounding && next < before))
+        if ((next > range.angle_max + range_tolerance && next > before) ||
+            (next < range.angle_min - range_tolerance && next < before))
             return QORIN_EVENT_SUBGRP_ROBOT_SAFETY_VIOLATED_JOINT_POSITION;
     }
     return {};

@@ -9,6 +9,7 @@
 
 #include "kinematics/angles.h"
 #include "kinematics/rotation.h"
+#include "simulator/model/pose_rotation.h"
 #include "simulator/model/pressed_force.h"
 
 namespace cbox_simulator
@@ -47,11 +48,6 @@ constexpr double room_ahead_in_time = 0.1; // seconds
 double told_or(double told, double usual)
 {
     return told > 0 ? told : usual;
-}
-
-Matrix3d rotation_of(const pose& of)
-{
-    return savrent::kinematics::rotation_of({of[3], of[4], of[5]});
 }
 
 /**

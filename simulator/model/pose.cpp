@@ -7,17 +7,13 @@
 
 #include "kinematics/angles.h"
 #include "kinematics/rotation.h"
+#include "simulator/model/pose_rotation.h"
 
 namespace cbox_simulator
 {
 namespace
 {
 namespace kinematics = savrent::kinematics;
-
-Eigen::Matrix3d rotation_of(const pose& of)
-{
-    return kinematics::rotation_of({of[3], of[4], of[5]});
-}
 
 pose pose_of(const Eigen::Vector3d& position, const Eigen::Matrix3d& rotation)
 {

@@ -8,6 +8,7 @@
 
 #include "kinematics/angles.h"
 #include "kinematics/rotation.h"
+#include "simulator/model/pose_rotation.h"
 
 namespace cbox_simulator
 {
@@ -24,11 +25,6 @@ constexpr double metres = 1e-3; // from millimetres
 Vector3d vector(const std::array<double, 3>& values)
 {
     return Vector3d::Map(values.data());
-}
-
-Matrix3d rotation_of(const pose& of)
-{
-    return savrent::kinematics::rotation_of({of[3], of[4], of[5]});
 }
 
 axis_values turned(const Matrix3d& rotation, const axis_values& values)

@@ -15,7 +15,7 @@ namespace
 using Eigen::Vector3d;
 
 /// What rounding may take an arm farther out that goes along a plane. Millimetres.
-constexpr double rounding = 1e-6;
+constexpr double way_tolerance = 1e-6;
 
 /// How thick links are, by the length of the whole arm: those up to the forearm, and those of the wrist.
 constexpr double thickness_of_arm = 1.0 / 16;
@@ -122,11 +122,11 @@ bool goes_beyond_a_plane(const robot_state& robot, const stance& from, const sta
         for (auto end = body.begin(); end != body.end(); ++end)
         {
             const double beyond = end->beyond(*held[index]);
-            if (beyond <= rounding)
+            if (beyond <= way_tolerance)
                 continue;
             if (!before)
                 before.emplace(robot, from);
-            if (beyond > before->begin()[end - body.begin()].beyond(*held[index]) + rounding)
+            if (beyond > before->begin()[end - body.begin()].beyond(*held[index]) + way_tolerance)
                 return true;
         }
     }
@@ -141,7 +141,7 @@ bool goes_out_of_region(const robot_state& robot, const stance& from, const stan
         return false;
     const auto outside = [&](const stance& at) { return distance_outside(*region, {at.tcp[0], at.tcp[1], at.tcp[2]}); };
     const double next = outside(to);
-    return next > rounding && next > outside(from) + rounding;
+    return next > way_tolerance && next > outside(from) + way_tolerance;
 }
 } // namespace
 

@@ -3,18 +3,12 @@
 #include <algorithm>
 #include <cmath>
 
+#include "simulator/motion/way_check.h"
+
 namespace cbox_simulator::motion
 {
 namespace
 {
-double farthest(const joint_array& start, const joint_array& end)
-{
-    double length = 0;
-    for (std::size_t joint = 0; joint < joint_count; ++joint)
-        length = std::max(length, std::abs(end[joint] - start[joint]));
-    return length;
-}
-
 motion_limits within(motion_limits limits, const joint_array& start, const joint_array& end, double length,
                      const joint_bounds& bounds)
 {

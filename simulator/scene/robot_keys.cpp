@@ -6,20 +6,20 @@ namespace cbox_simulator
 {
 namespace
 {
-using numbers = std::span<const double>;
+using number_list = std::span<const double>;
 using savrent::kinematics::joint_count;
 using savrent::kinematics::joint_range;
 
 constexpr auto out_of_range = QORIN_API_RESULT_ERROR_ROBOT_PARAM_OUT_OF_RANGE;
 
-std::array<double, 6> six(numbers values)
+std::array<double, 6> six(number_list values)
 {
     std::array<double, 6> array{};
     std::ranges::copy(values, array.begin());
     return array;
 }
 
-bool are_magnitudes(numbers values)
+bool are_magnitudes(number_list values)
 {
     return std::ranges::all_of(values, [](double value) { return value >= 0; });
 }
@@ -35,7 +35,7 @@ std::vector<double> limits(robot_state& robot)
 
 /// The bounds of an empty range are told one after the other, so that they are judged when both are known.
 template <auto member, bool is_magnitude>
-QORIN_API_RESULT set_limits(robot_state& robot, numbers values)
+QORIN_API_RESULT set_limits(robot_state& robot, number_list values)
 {
     if (is_magnitude && !are_magnitudes(values))
         return out_of_range;
@@ -44,7 +44,7 @@ QORIN_API_RESULT set_limits(robot_state& robot, numbers values)
     return QORIN_API_RESULT_OK;
 }
 
-QORIN_API_RESULT set_joint_maxima(robot_state& robot, numbers values)
+QORIN_API_RESULT set_joint_maxima(robot_state& robot, number_list values)
 {
     for (std::size_t joint = 0; joint < joint_count; ++joint)
         if (values[joint] < robot.settings().safety_joints[joint].angle_min)
@@ -52,7 +52,7 @@ QORIN_API_RESULT set_joint_maxima(robot_state& robot, numbers values)
     return set_limits<&joint_range::angle_max, false>(robot, values);
 }
 
-QORIN_API_RESULT set_magnitudes(double& first, double& second, numbers values)
+QORIN_API_RESULT set_magnitudes(double& first, double& second, number_list values)
 {
     if (!are_magnitudes(values))
         return out_of_range;
@@ -65,7 +65,7 @@ template <auto member>
 constexpr robot_key switch_key(std::string_view name)
 {
     return {name, 1,
-            [](robot_state& robot, numbers values)
+            [](robot_state& robot, number_list values)
             {
                 robot.settings().switches.*member = values[0] != 0 ? QORIN_SWITCH_ON : QORIN_SWITCH_OFF;
                 return values[0] == 0 || values[0] == 1 ? QORIN_API_RESULT_OK : out_of_range;
@@ -75,7 +75,7 @@ constexpr robot_key switch_key(std::string_view name)
 }
 
 /// Six thresholds, of joints or of axes, and one of a force.
-QORIN_API_RESULT set_thresholds(std::array<double, 6>& of_each, double& of_force, numbers values)
+QORIN_API_RESULT set_thresholds(std::array<double, 6>& of_each, double& of_force, number_list values)
 {
     if (!are_magnitudes(values))
         return out_of_range;
@@ -92,11 +92,11 @@ std::vector<double> thresholds(const std::array<double, 6>& of_each, double of_f
 }
 
 constexpr robot_key keys[] = {
-    {"tool", 6, [](robot_state& robot, numbers values) { return robot.set_tcp_from_flange(six(values)); },
+    {"tool", 6, [](robot_state& robot, number_list values) { return robot.set_tcp_from_flange(six(values)); },
      [](robot_state& robot)
      { return std::vector<double>(robot.tcp_from_flange().begin(), robot.tcp_from_flange().end()); }},
     {"payload", 4,
-     [](robot_state& robot, numbers values) {
+     [](robot_state& robot, number_list values) {
          return robot.set_payload({values[0], {values[1], values[2], values[3]}});
      },
      [](robot_state& robot)
@@ -105,7 +105,7 @@ constexpr robot_key keys[] = {
          return std::vector{mass, centre[0], centre[1], centre[2]};
      }},
     {"mount", 2,
-     [](robot_state& robot, numbers values)
+     [](robot_state& robot, number_list values)
      {
          robot.settings().installation_mount = {values[0], values[1]};
          return QORIN_API_RESULT_OK;
@@ -121,7 +121,7 @@ constexpr robot_key keys[] = {
     {"joint_accelerations", joint_count, set_limits<&joint_range::acceleration_max, true>,
      limits<&joint_range::acceleration_max>},
     {"tcp_limits", 2,
-     [](robot_state& robot, numbers values)
+     [](robot_state& robot, number_list values)
      {
          auto& kept = robot.settings().safety_tcp;
          return set_magnitudes(kept.speed_max, kept.acceleration_max, values);
@@ -132,7 +132,7 @@ constexpr robot_key keys[] = {
          return std::vector{kept.speed_max, kept.acceleration_max};
      }},
     {"reduced_mode", 2,
-     [](robot_state& robot, numbers values)
+     [](robot_state& robot, number_list values)
      {
          auto& kept = robot.settings().reduced_mode;
          return set_magnitudes(kept.tcp_speed, kept.joint_speed, values);
@@ -147,7 +147,7 @@ constexpr robot_key keys[] = {
     switch_key<&robot_switches::collision_detection>("collision_detection"),
     switch_key<&robot_switches::collision_mitigation>("collision_mitigation"),
     {"collision_torques", joint_count,
-     [](robot_state& robot, numbers values)
+     [](robot_state& robot, number_list values)
      {
          if (!are_magnitudes(values))
              return out_of_range;
@@ -160,7 +160,7 @@ constexpr robot_key keys[] = {
          return std::vector<double>(kept.begin(), kept.end());
      }},
     {"collision_forces", 7,
-     [](robot_state& robot, numbers values)
+     [](robot_state& robot, number_list values)
      {
          auto& kept = robot.settings().collision;
          return set_thresholds(kept.tcp_force, kept.tcp_resultant_force, values);
@@ -171,7 +171,7 @@ constexpr robot_key keys[] = {
          return thresholds(kept.tcp_force, kept.tcp_resultant_force);
      }},
     {"reduced_collision", 7,
-     [](robot_state& robot, numbers values)
+     [](robot_state& robot, number_list values)
      {
          auto& kept = robot.settings().reduced_mode;
          return set_thresholds(kept.collision_joint_torque, kept.collision_tcp_force, values);
@@ -181,7 +181,7 @@ constexpr robot_key keys[] = {
          const auto& kept = robot.settings().reduced_mode;
          return thresholds(kept.collision_joint_torque, kept.collision_tcp_force);
      }},
-    {"joints", joint_count, [](robot_state& robot, numbers values) { return robot.set_joint_angles(six(values)); },
+    {"joints", joint_count, [](robot_state& robot, number_list values) { return robot.set_joint_angles(six(values)); },
      [](robot_state& robot) { return std::vector<double>(robot.joint_angles().begin(), robot.joint_angles().end()); }},
 };
 } // namespace

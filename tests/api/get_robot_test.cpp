@@ -183,6 +183,7 @@ const std::vector<row>& rows()
         {GETTER(robot_ext_force_torq_sensor_switch_get), check::id_alone, frame, {24664}, 56},
         {GETTER(robot_conveyor_encoder_switch_get), check::id_alone, frame, {24612}},
     };
+#undef GETTER
     return all;
 }
 

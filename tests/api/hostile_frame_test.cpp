@@ -55,6 +55,7 @@ const std::vector<getter_call>& all_getters()
     static const std::vector<getter_call> all = {
 #define GETTER(name) caller(name),
 #include "status_getters.inc" // made from the public headers
+#undef GETTER
     };
     return all;
 }

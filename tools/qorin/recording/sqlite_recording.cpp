@@ -11,7 +11,7 @@ namespace
 /// What a recording is told from other databases by: "QREC".
 constexpr int application_id = 0x51524543;
 
-std::string quoted(const std::string& name)
+std::string sql_name(const std::string& name)
 {
     std::string text = "\"";
     for (const char letter : name)
@@ -135,7 +135,7 @@ sqlite_recording_writer::sqlite_recording_writer(const std::filesystem::path& fi
     std::string parameters;
     for (const field_info& field : info.fields)
     {
-        columns += fmt::format(", {} {}", quoted(field.name), type_of(field));
+        columns += fmt::format(", {} {}", sql_name(field.name), type_of(field));
         parameters += ", ?";
     }
     database_.run("CREATE TABLE about(key TEXT PRIMARY KEY, value TEXT);"
@@ -211,7 +211,7 @@ sqlite_recording_reader::sqlite_recording_reader(const std::filesystem::path& fi
     read_head();
     std::string columns;
     for (const field_info& field : info_.fields)
-        columns += ", " + quoted(field.name);
+        columns += ", " + sql_name(field.name);
     samples_.emplace(database_, "SELECT time" + columns + " FROM status WHERE time >= ? ORDER BY time");
     events_.emplace(database_, "SELECT * FROM events WHERE time >= ? ORDER BY time");
     seek(0);
