@@ -12,6 +12,10 @@ if(QORIN_SANITIZE)
   target_compile_options(qorin_flags INTERFACE -Wno-maybe-uninitialized)
   target_link_options(qorin_flags INTERFACE -fsanitize=${qorin_sanitizers})
 endif()
+# Sources that are compiled as one see each other's private names.
+if(CMAKE_UNITY_BUILD)
+  target_compile_options(qorin_flags INTERFACE -Wno-shadow $<$<COMPILE_LANGUAGE:CXX>:-Wno-subobject-linkage>)
+endif()
 target_include_directories(qorin_flags INTERFACE ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/include)
 
 option(QORIN_HARDENING "Guard stack, calls and tables of addresses at run time" ON)
@@ -41,5 +45,5 @@ target_compile_options(qorin_flags INTERFACE "$<$<NOT:$<CONFIG:Debug>>:${qorin_p
 
 # For what does each thing once: most of its building time would go into optimising.
 function(qorin_build_fast target)
-  target_compile_options(${target} PRIVATE "$<$<NOT:$<CONFIG:Debug>>:-O0;-U_FORTIFY_SOURCE>")
+  target_compile_options(${target} PRIVATE "$<$<OR:$<NOT:$<CONFIG:Debug>>,$<BOOL:${QORIN_SANITIZE}>>:-O0;-U_FORTIFY_SOURCE>")
 endfunction()
