@@ -1,5 +1,6 @@
 # What `cmake --install` lays down. Component `runtime` is what an application runs with, `development` what it is built
-# with. Nothing of it knows where it lies, so that the whole may be moved.
+# with; `tools` are the programs, with what they need beyond the library; `documentation`, `examples` and `python` are what
+# they say. Nothing of it knows where it lies, so that the whole may be moved.
 include(CMakePackageConfigHelpers)
 
 set(qorin_kinematics_directory ${CMAKE_INSTALL_LIBDIR}/qorin/kinematics)
@@ -14,11 +15,19 @@ install(TARGETS qorin_api_rpc_client EXPORT qorin_api_rpc_client
 install(TARGETS qorin_kinematics_arm LIBRARY DESTINATION ${qorin_kinematics_directory} COMPONENT runtime)
 foreach(program qorin_cbox_sim qorin)
   if(TARGET ${program})
-    install(TARGETS ${program} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT runtime)
+    install(TARGETS ${program} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tools)
   endif()
 endforeach()
 if(TARGET qorin)
-  install(FILES ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/qorin_log DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT runtime)
+  install(FILES ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/qorin_log DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tools)
+endif()
+# The module's place in the sample: fixed in a system, and from where the installation lies otherwise.
+if(CMAKE_INSTALL_PREFIX STREQUAL "/usr")
+  set(qorin_place_of_module)
+  set(qorin_kinematics_path /usr/${qorin_kinematics_directory})
+else()
+  set(qorin_place_of_module ", when $SAVRENT_V3 is the directory into which the library is installed")
+  set(qorin_kinematics_path ./${qorin_kinematics_directory})
 endif()
 configure_file(cmake/config.ini.in ${PROJECT_BINARY_DIR}/share/config.ini @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/share/config.ini DESTINATION ${qorin_data_directory} COMPONENT runtime)
@@ -27,9 +36,9 @@ install(DIRECTORY include/qorin DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONEN
         FILES_MATCHING PATTERN "*.h")
 install(DIRECTORY savrent/cc/math DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/savrent/cc COMPONENT development
         FILES_MATCHING PATTERN "*.h")
-install(FILES README.md CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development)
-install(DIRECTORY examples DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development)
-install(DIRECTORY docs DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development
+install(FILES README.md CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documentation)
+install(DIRECTORY examples DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT examples)
+install(DIRECTORY docs DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT documentation
         FILES_MATCHING PATTERN "*.md" PATTERN "*.png" PATTERN "*.svg" PATTERN site EXCLUDE PATTERN man EXCLUDE)
 
 configure_package_config_file(cmake/qorin_api_rpc_client-config.cmake.in
