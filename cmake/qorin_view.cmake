@@ -3,7 +3,8 @@
 # that all build trees share one download. A build alone leaves out what only tests need.
 find_program(QORIN_NODE NAMES node nodejs)
 find_program(QORIN_NPM npm)
-mark_as_advanced(QORIN_NODE QORIN_NPM)
+set(QORIN_NODE_CACHE "" CACHE PATH "Where the packages of the page are kept, if not beside other caches of the user")
+mark_as_advanced(QORIN_NODE QORIN_NPM QORIN_NODE_CACHE)
 
 function(qorin_install_node_modules result)
   set(page ${PROJECT_SOURCE_DIR}/tools/qorin/view/page)
@@ -16,12 +17,17 @@ function(qorin_install_node_modules result)
     string(APPEND hash _test)
   endif()
   set(cache ${PROJECT_BINARY_DIR}/node)
-  if(DEFINED ENV{XDG_CACHE_HOME})
+  if(QORIN_NODE_CACHE)
+    set(cache ${QORIN_NODE_CACHE})
+  elseif(DEFINED ENV{XDG_CACHE_HOME})
     set(cache $ENV{XDG_CACHE_HOME}/qorin)
   elseif(IS_DIRECTORY "$ENV{HOME}")
     set(cache $ENV{HOME}/.cache/qorin)
   endif()
   set(place ${cache}/node_${hash})
+  if(EXISTS ${place}_test/complete)
+    string(APPEND place _test) # what tests need besides does no harm
+  endif()
 
   file(LOCK ${cache} DIRECTORY GUARD FUNCTION TIMEOUT 600 RESULT_VARIABLE locked)
   if(NOT EXISTS ${place}/complete)
