@@ -145,7 +145,8 @@ struct motion_command
         return *this == fresh;
     }
 
-    bool operator==(const motion_command&) const = default;
+    // Inlined, g++ 12 takes parts that are not there for uninitialised ones that are looked at.
+    [[gnu::noinline]] bool operator==(const motion_command&) const = default;
 
     motion_kind kind;
     std::optional<std::uint32_t> robot_id;
