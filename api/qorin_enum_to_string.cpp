@@ -1,8 +1,8 @@
 #include "api/qorin_enum_to_string.h"
 
-#include <array>
 #include <atomic>
 #include <cstddef>
+#include <iterator>
 #include <string>
 #include <unordered_map>
 
@@ -28,7 +28,7 @@ struct enum_row
         member, #member                                                                                                \
     }
 
-constexpr std::array enum_rows = {
+constexpr enum_row enum_rows[] = {
     name_of(QORIN_API_RESULT_OK),
     name_of(QORIN_API_RESULT_ERROR_NO_SUPPORT),
     name_of(QORIN_API_RESULT_ERROR_CONTROL_TAKE_FAILURE),
@@ -584,7 +584,7 @@ constexpr std::array enum_rows = {
 };
 #undef name_of
 
-static_assert(enum_rows.size() == 552);
+static_assert(std::size(enum_rows) == 552);
 
 struct identity_hash
 {
@@ -601,7 +601,7 @@ void qorin_init_enum_to_string()
     static std::atomic<bool> b_init = false;
     if (b_init.exchange(true, std::memory_order_relaxed))
         return;
-    static savrent::cc::immortal<enum_names> names(enum_rows.size());
+    static savrent::cc::immortal<enum_names> names(std::size(enum_rows));
     for (const enum_row& row : enum_rows)
         names->emplace(row.value, row.name);
     g_enum_to_string_map.store(&*names, std::memory_order_release);

@@ -6,7 +6,6 @@
 #include <cstddef>
 #include <memory>
 #include <mutex>
-#include <source_location>
 #include <string_view>
 #include <type_traits>
 
@@ -24,25 +23,23 @@ namespace qorin_api_rpc
 inline constexpr std::string_view wire_prefix = "qorin_";
 inline constexpr std::string_view exported_prefix = "qorin_rpc_";
 
-/// Whether a wire name is that of the function it stands in. Functions that are no exports may use any name.
+/// Whether a wire name is that of the function it stands in. What is no export, a lambda too, may use any name.
 [[nodiscard]] consteval bool may_stand_in(std::string_view wire_name, std::string_view function)
 {
-    std::string_view name = function.substr(0, function.find('('));
-    name.remove_prefix(name.find_last_of(" *&") + 1); // nothing there: npos and one is none
-    if (!name.starts_with(exported_prefix))
+    if (!function.starts_with(exported_prefix))
         return true;
     return wire_name.starts_with(wire_prefix) &&
-           wire_name.substr(wire_prefix.size()) == name.substr(exported_prefix.size());
+           wire_name.substr(wire_prefix.size()) == function.substr(exported_prefix.size());
 }
 
 /// A wire name as a template argument: one that fits a request and is that of the function it stands in.
 template <std::size_t Size>
 struct wire_name_text
 {
-    consteval wire_name_text(const char (&literal)[Size], std::source_location place = std::source_location::current())
+    consteval wire_name_text(const char (&literal)[Size], const char* function = __builtin_FUNCTION())
     {
         static_assert(Size <= sizeof(protocol::request_record::wire_name));
-        if (!may_stand_in(literal, place.function_name()))
+        if (!may_stand_in(literal, function))
             throw "the wire name of another function";
         std::copy_n(literal, Size, text);
     }

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <tuple>
 
 #include "simulator/model/pressed_force.h"
 
@@ -10,8 +9,9 @@ namespace cbox_simulator
 {
 std::optional<detected_collision> collision_of(const robot_state& robot, const blow& hit)
 {
-    const auto& [switches, thresholds, reduced] =
-        std::tie(robot.settings().switches, robot.settings().collision, robot.settings().reduced_mode);
+    const auto& switches = robot.settings().switches;
+    const auto& thresholds = robot.settings().collision;
+    const auto& reduced = robot.settings().reduced_mode;
     if (switches.collision_detection != QORIN_SWITCH_ON || switches.servo != QORIN_SWITCH_ON || robot.collision() != 0)
         return {};
     const auto in_force = [&](double usual, double in_reduced_mode)

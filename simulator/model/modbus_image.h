@@ -36,8 +36,8 @@ public:
     /// No more than a block has. The image must hold them.
     void write(std::uint32_t index, std::uint32_t count, const block_of<Element>& values)
     {
-        std::transform(values.begin(), values.begin() + std::min<std::ptrdiff_t>(count, values.size()),
-                       elements_.begin() + index, in_range);
+        const auto size = std::min<std::size_t>(count, values.size());
+        std::transform(values.data(), values.data() + size, elements_.begin() + index, in_range);
     }
 
     /// What an output carries of them: the first four bytes. The image must hold them.

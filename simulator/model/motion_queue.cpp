@@ -1,7 +1,6 @@
 #include "simulator/model/motion_queue.h"
 
 #include <algorithm>
-#include <ranges>
 #include <utility>
 
 namespace cbox_simulator
@@ -139,9 +138,9 @@ motion_queue::queue_plan motion_queue::plan(std::uint32_t id, const motion_comma
 
 const run_entry* motion_queue::entry_ahead(std::uint32_t robot_id, const queue& queued) const
 {
-    for (const auto& each : queued | std::views::reverse)
-        if (each.entry.command.robot_id == robot_id)
-            return &each.entry;
+    for (auto each = queued.rbegin(); each != queued.rend(); ++each)
+        if (each->entry.command.robot_id == robot_id)
+            return &each->entry;
     const auto* run = executors_[robot_id]->last_run();
     return run ? &run->entries().back() : nullptr;
 }

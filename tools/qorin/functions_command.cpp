@@ -21,9 +21,9 @@ struct functions_request
 
 bool has(std::string_view text, const std::string& pattern)
 {
-    return std::ranges::search(text, pattern,
-                               [](unsigned char a, unsigned char b) { return std::tolower(a) == std::tolower(b); })
-               .begin() != text.end();
+    return std::search(text.begin(), text.end(), pattern.begin(), pattern.end(),
+                       [](unsigned char a, unsigned char b)
+                       { return std::tolower(a) == std::tolower(b); }) != text.end();
 }
 
 int print_functions(const functions_request& request)

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <cstring>
 #include <initializer_list>
 #include <string>
@@ -84,9 +85,10 @@ void sliced(unsigned int time_out, Wait wait)
     }
 }
 
-inline std::size_t less(std::size_t count, std::size_t by)
+/// Elements of an array that has `by` fewer than a count of the caller's, who may give a negative one.
+inline std::size_t less(std::int64_t count, std::int64_t by)
 {
-    return count > by ? count - by : 0;
+    return count > by ? static_cast<std::size_t>(count - by) : 0;
 }
 
 std::size_t joint_count(unsigned int cbox_id, unsigned int robot_id);

@@ -235,9 +235,8 @@ void sqlite_recording_reader::read_head()
         robot.description.joints = static_cast<unsigned int>(robots.number(3));
         joints.bind(robots.value(0)).bind(robots.value(1));
         while (joints.step())
-            for (int parameter = 0; parameter < 4; ++parameter)
-                robot.description.dh.at(parameter).at(static_cast<std::size_t>(joints.number(0))) =
-                    joints.number(1 + parameter);
+            for (int column = 1; auto& parameter : robot.description.dh)
+                parameter.at(static_cast<std::size_t>(joints.number(0))) = joints.number(column++);
         robots_.push_back(std::move(robot));
     }
     recording_statement last(database_, "SELECT max(time) FROM (SELECT max(time) AS time FROM status"
@@ -253,8 +252,8 @@ bool sqlite_recording_reader::next(row& read)
     {
         recorded_event happened{
             events_->number(0), events_->text(1), events_->text(2), static_cast<unsigned int>(events_->number(3)), {}};
-        for (int i = 0; i < 5; ++i)
-            happened.parameters.at(i) = static_cast<int>(events_->number(4 + i));
+        for (int column = 4; int& parameter : happened.parameters)
+            parameter = static_cast<int>(events_->number(column++));
         read = std::move(happened);
         has_event_ = events_->step();
         return true;
