@@ -146,7 +146,6 @@ TEST(rate_governor, never_leaps_nor_leaves_its_range_whatever_it_is_told_when)
         rate_governor governor;
         governor.start_at(random.between(0, 1));
         double shortest = 1;
-        double since = 0;
         for (int k = 0; k < 2000; ++k)
         {
             if (random.between(0, 1) < 0.01)
@@ -163,7 +162,6 @@ TEST(rate_governor, never_leaps_nor_leaves_its_range_whatever_it_is_told_when)
             ASSERT_LE(std::abs(governor.rate() - rate), steepest * cycle * beyond);
             ASSERT_NEAR(passed, (rate + governor.rate()) / 2 * cycle,
                         20 / (shortest * shortest) * cycle * cycle * cycle);
-            since += passed;
         }
     }
 }

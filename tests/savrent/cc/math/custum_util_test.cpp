@@ -164,7 +164,7 @@ TEST(circle, is_found_through_random_points)
 
         // A tool that points outwards at the start does so at the end.
         vector3 start_euler, end_euler;
-        matrix3 start_axes, end_axes;
+        matrix3 end_axes;
         robot::convert_quaternion_to_euler_angle(q, start_euler);
         ASSERT_TRUE(robot::calc_end_ort_in_arc(at(0), at(mid_angle), at(end_angle), start_euler, end_euler));
         robot::convert_euler_angle_to_rot_mat(end_euler, end_axes);
