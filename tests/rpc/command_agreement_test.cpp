@@ -146,8 +146,8 @@ const std::vector<command_row>& commands()
         std::vector<command_row> all = {
 #include "commands_of_headers.inc"
         };
-        std::ranges::stable_partition(all,
-                                      [](const auto& row) { return row.wire_name != "qorin_system_control_sw_exit"; });
+        std::stable_partition(all.begin(), all.end(),
+                              [](const auto& row) { return row.wire_name != "qorin_system_control_sw_exit"; });
         return all;
     }();
     return rows;
