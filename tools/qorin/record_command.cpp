@@ -137,10 +137,7 @@ private:
 
     void add_sample()
     {
-        recorded_sample sample{elapsed().count(), {}};
-        for (const status_field& field : fields_)
-            sample.values.push_back(field.read());
-        file_->add(sample);
+        file_->add(recorded_sample{elapsed().count(), read_fields(fields_)});
         ++samples_;
     }
 

@@ -35,14 +35,14 @@ ordered_json json_of(const field_value& value)
 ordered_json fields_as_json(const std::vector<status_field>& fields)
 {
     ordered_json tree;
-    for (const status_field& field : fields)
+    const std::vector<field_value> values = read_fields(fields);
+    for (std::size_t i = 0; i < fields.size(); ++i)
     {
-        const field_value value = field.read();
-        if (std::holds_alternative<std::monostate>(value))
+        if (std::holds_alternative<std::monostate>(values[i]))
             continue;
-        std::string place = "/" + field.name;
+        std::string place = "/" + fields[i].name;
         std::ranges::replace(place, '.', '/');
-        tree[ordered_json::json_pointer(place)] = json_of(value);
+        tree[ordered_json::json_pointer(place)] = json_of(values[i]);
     }
     return tree;
 }

@@ -102,18 +102,29 @@ csv_recording_reader::csv_recording_reader(const std::filesystem::path& file) : 
     while (read_line(line) && line.starts_with("#"))
         read_comment(line);
     read_columns(line);
-    first_row_ = file_.tellg();
-    line_of_first_row_ = line_number_;
-    // Robots that came later, and the time of the last row.
-    std::string last;
-    while (read_line(line))
-        if (line.starts_with("# "))
-            read_comment(line);
-        else
-            last.swap(line);
-    if (!last.empty())
-        duration_ = number_of(last.substr(0, last.find(',')));
+    find_rows();
     seek(0);
+}
+
+void csv_recording_reader::find_rows()
+{
+    const std::string no_event(event_columns.size(), ',');
+    std::string line;
+    for (auto place = file_.tellg(); read_line(line); place = file_.tellg())
+    {
+        if (line.starts_with("#"))
+        {
+            read_comment(line);
+            continue;
+        }
+        const double time = number_of(line.substr(0, line.find(',')));
+        if (line.ends_with(no_event))
+            sample_times_.push_back(time);
+        else if (row read = row_of(line); auto* const happened = std::get_if<recorded_event>(&read))
+            events_.push_back(std::move(*happened));
+        rows_.push_back({rows_.empty() ? time : std::max(time, rows_.back().time), place, line_number_ - 1});
+        duration_ = time;
+    }
 }
 
 bool csv_recording_reader::next(row& read)
@@ -123,6 +134,12 @@ bool csv_recording_reader::next(row& read)
         if (!read_line(line))
             return false;
     while (line.starts_with("#"));
+    read = row_of(line);
+    return true;
+}
+
+recording_reader::row csv_recording_reader::row_of(const std::string& line) const
+{
     const std::vector<std::string> cells = cells_of(line);
     const std::size_t fields = info_.fields.size();
     if (cells.size() != 1 + fields + event_columns.size())
@@ -133,8 +150,7 @@ bool csv_recording_reader::next(row& read)
         recorded_event happened{time, told[0], told[1], static_cast<unsigned int>(number_of(told[2])), {}};
         for (std::size_t i = 0; i < happened.parameters.size(); ++i)
             happened.parameters[i] = static_cast<int>(number_of(told[3 + i]));
-        read = happened;
-        return true;
+        return happened;
     }
     recorded_sample sample{time, std::vector<field_value>(fields)};
     for (std::size_t i = 0; i < fields; ++i)
@@ -147,26 +163,20 @@ bool csv_recording_reader::next(row& read)
         else
             sample.values[i] = number_of(cell);
     }
-    read = std::move(sample);
-    return true;
+    return sample;
 }
 
 void csv_recording_reader::seek(double time)
 {
     file_.clear();
-    file_.seekg(first_row_);
-    line_number_ = line_of_first_row_;
-    for (std::string line; time > 0;)
+    const auto found = std::ranges::lower_bound(rows_, time, {}, &row_place::time);
+    if (found == rows_.end())
     {
-        const std::streampos place = file_.tellg();
-        if (!read_line(line))
-            return;
-        if (line.starts_with("#") || number_of(line.substr(0, line.find(','))) < time)
-            continue;
-        file_.seekg(place);
-        --line_number_;
+        file_.seekg(0, std::ios::end);
         return;
     }
+    file_.seekg(found->place);
+    line_number_ = found->lines_before;
 }
 
 bool csv_recording_reader::read_line(std::string& line)

@@ -43,6 +43,16 @@ public:
     void seek(double time) override;
 
 private:
+    struct row_place
+    {
+        double time; ///< of the latest row up to this one
+        std::streampos place;
+        std::size_t lines_before;
+    };
+
+    void find_rows();
+    [[nodiscard]] row row_of(const std::string& line) const;
+
     /// A line without its end; false where no whole line is left.
     bool read_line(std::string& line);
     void read_comment(const std::string& line);
@@ -55,8 +65,7 @@ private:
     std::ifstream file_;
     std::size_t line_number_ = 0;
     std::vector<std::string> units_;
-    std::streampos first_row_;
-    std::size_t line_of_first_row_ = 0;
+    std::vector<row_place> rows_;
 };
 } // namespace qorin_cli
 

@@ -72,6 +72,11 @@ public:
     [[nodiscard]] const recording_info& info() const { return info_; }
     [[nodiscard]] const std::vector<recorded_robot>& robots() const { return robots_; }
 
+    [[nodiscard]] const std::vector<recorded_event>& events() const { return events_; }
+
+    /// The times of all samples, in their order.
+    [[nodiscard]] const std::vector<double>& sample_times() const { return sample_times_; }
+
     /// The time of the last row.
     [[nodiscard]] double duration() const { return duration_; }
 
@@ -84,6 +89,8 @@ public:
 protected:
     recording_info info_;
     std::vector<recorded_robot> robots_;
+    std::vector<recorded_event> events_;
+    std::vector<double> sample_times_;
     double duration_ = 0;
 };
 

@@ -1,5 +1,7 @@
 #include "tools/qorin/recording/sqlite_recording.h"
 
+#include <algorithm>
+
 #include <fmt/format.h>
 
 #include "tools/qorin/subcommands.h"
@@ -212,9 +214,30 @@ sqlite_recording_reader::sqlite_recording_reader(const std::filesystem::path& fi
     std::string columns;
     for (const field_info& field : info_.fields)
         columns += ", " + sql_name(field.name);
-    samples_.emplace(database_, "SELECT time" + columns + " FROM status WHERE time >= ? ORDER BY time");
-    events_.emplace(database_, "SELECT * FROM events WHERE time >= ? ORDER BY time");
+    sample_rows_.emplace(database_, "SELECT time" + columns + " FROM status WHERE time >= ? ORDER BY time");
+    event_rows_.emplace(database_, "SELECT * FROM events WHERE time >= ? ORDER BY time");
+    find_rows();
     seek(0);
+}
+
+void sqlite_recording_reader::find_rows()
+{
+    recording_statement times(database_, "SELECT time FROM status ORDER BY time");
+    while (times.step())
+        sample_times_.push_back(times.number(0));
+    event_rows_->bind(0.0);
+    while (event_rows_->step())
+        events_.push_back(event_of_row());
+    duration_ = std::max(sample_times_.empty() ? 0 : sample_times_.back(), events_.empty() ? 0 : events_.back().time);
+}
+
+recorded_event sqlite_recording_reader::event_of_row() const
+{
+    const recording_statement& told = *event_rows_;
+    recorded_event happened{told.number(0), told.text(1), told.text(2), static_cast<unsigned int>(told.number(3)), {}};
+    for (int column = 4; int& parameter : happened.parameters)
+        parameter = static_cast<int>(told.number(column++));
+    return happened;
 }
 
 void sqlite_recording_reader::read_head()
@@ -239,43 +262,34 @@ void sqlite_recording_reader::read_head()
                 parameter.at(static_cast<std::size_t>(joints.number(0))) = joints.number(column++);
         robots_.push_back(std::move(robot));
     }
-    recording_statement last(database_, "SELECT max(time) FROM (SELECT max(time) AS time FROM status"
-                                        " UNION SELECT max(time) FROM events)");
-    if (last.step())
-        duration_ = last.number(0);
-    last.reset();
 }
 
 bool sqlite_recording_reader::next(row& read)
 {
-    if (has_event_ && (!has_sample_ || events_->number(0) < samples_->number(0)))
+    if (has_event_ && (!has_sample_ || event_rows_->number(0) < sample_rows_->number(0)))
     {
-        recorded_event happened{
-            events_->number(0), events_->text(1), events_->text(2), static_cast<unsigned int>(events_->number(3)), {}};
-        for (int column = 4; int& parameter : happened.parameters)
-            parameter = static_cast<int>(events_->number(column++));
-        read = std::move(happened);
-        has_event_ = events_->step();
+        read = event_of_row();
+        has_event_ = event_rows_->step();
         return true;
     }
     if (!has_sample_)
         return false;
-    recorded_sample sample{samples_->number(0), {}};
+    recorded_sample sample{sample_rows_->number(0), {}};
     for (std::size_t i = 0; i < info_.fields.size(); ++i)
-        sample.values.push_back(samples_->value(static_cast<int>(1 + i)));
+        sample.values.push_back(sample_rows_->value(static_cast<int>(1 + i)));
     read = std::move(sample);
-    has_sample_ = samples_->step();
+    has_sample_ = sample_rows_->step();
     return true;
 }
 
 void sqlite_recording_reader::seek(double time)
 {
-    for (recording_statement* const rows : {&*samples_, &*events_})
+    for (recording_statement* const rows : {&*sample_rows_, &*event_rows_})
     {
         rows->reset();
         rows->bind(time);
     }
-    has_sample_ = samples_->step();
-    has_event_ = events_->step();
+    has_sample_ = sample_rows_->step();
+    has_event_ = event_rows_->step();
 }
 } // namespace qorin_cli

@@ -82,10 +82,12 @@ public:
 
 private:
     void read_head();
+    void find_rows();
+    [[nodiscard]] recorded_event event_of_row() const;
 
     recording_database database_;
-    std::optional<recording_statement> samples_;
-    std::optional<recording_statement> events_;
+    std::optional<recording_statement> sample_rows_;
+    std::optional<recording_statement> event_rows_;
     bool has_sample_ = false;
     bool has_event_ = false;
 };

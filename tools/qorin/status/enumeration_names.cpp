@@ -1,5 +1,7 @@
 #include "tools/qorin/status/enumeration_names.h"
 
+#include <algorithm>
+#include <charconv>
 #include <unordered_map>
 
 #include "qorin/enumerations.h"
@@ -25,5 +27,16 @@ std::string member_name(unsigned int value, std::string_view beginning)
     if (name.starts_with(beginning))
         name.remove_prefix(beginning.size());
     return std::string(name);
+}
+
+unsigned int member_value(std::string_view name, std::string_view beginning)
+{
+    const auto is_meant = [&](const auto& member)
+    { return member.second.starts_with(beginning) && member.second.substr(beginning.size()) == name; };
+    if (const auto found = std::ranges::find_if(members, is_meant); found != members.end())
+        return found->first;
+    unsigned int value = 0;
+    std::from_chars(name.data(), name.data() + name.size(), value);
+    return value;
 }
 } // namespace qorin_cli

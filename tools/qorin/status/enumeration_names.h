@@ -11,6 +11,9 @@ namespace qorin_cli
  * QORIN_SWITCH_ON and "QORIN_SWITCH_". A value without a name is its number; 0, which is no member, is empty.
  */
 [[nodiscard]] std::string member_name(unsigned int value, std::string_view beginning);
+
+/// The value that has such a name, or is such a number; 0 where there is none.
+[[nodiscard]] unsigned int member_value(std::string_view name, std::string_view beginning);
 } // namespace qorin_cli
 
 #endif

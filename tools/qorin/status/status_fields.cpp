@@ -109,6 +109,12 @@ reader errors_of(unsigned int cbox, unsigned int robot, unsigned int joint)
     };
 }
 
+/// Nothing where no plane stands.
+reader plane_of(unsigned int cbox, unsigned int robot, unsigned int plane, std::size_t which)
+{
+    return output_of<4>(which, qorin_rpc_robot_safety_limit_plane_norm_distance_get, cbox, robot, plane);
+}
+
 /// What a joint that the robot does not have tells is without meaning.
 reader of_joint(unsigned int cbox, unsigned int robot, unsigned int joint, reader read)
 {
@@ -187,6 +193,8 @@ void add_robot_states(field_list& list, unsigned int cbox, unsigned int robot)
     list.word("collision_detection", switch_of(qorin_rpc_robot_collision_detection_switch_get, cbox, robot));
     list.word("safety_limits", switch_of(qorin_rpc_robot_safety_limit_switch_get, cbox, robot));
     list.word("bounding_shape", switch_of(qorin_rpc_robot_safety_limit_tcp_bounding_shape_switch_get, cbox, robot));
+    list.word("force_sensor", switch_of(qorin_rpc_robot_force_torq_sensor_switch_get, cbox, robot));
+    list.setting("spec_tcp_speed", "mm/s", number_of<double>(qorin_rpc_robot_spec_tcp_speed_max_get, cbox, robot));
     list.setting("safety_tcp_speed", "mm/s",
                  number_of<double>(qorin_rpc_robot_safety_limit_tcp_speed_max_get, cbox, robot));
     list.setting("safety_tcp_acceleration", "mm/s2",
@@ -207,13 +215,13 @@ void add_joint(field_list& list, unsigned int cbox, unsigned int robot, unsigned
     list.number("voltage", "V", of(qorin_rpc_robot_joint_voltage_get));
     list.number("temperature", "degC", of(qorin_rpc_robot_joint_temperature_get));
     list.word("errors", of_joint(cbox, robot, joint, errors_of(cbox, robot, joint)));
-    const auto end = [&](std::size_t which)
-    {
-        return of_joint(cbox, robot, joint,
-                        output_of<2>(which, qorin_rpc_robot_safety_limit_joint_angle_get, cbox, robot, joint));
-    };
-    list.setting("safety_angle_1", "deg", end(0));
-    list.setting("safety_angle_2", "deg", end(1));
+    const auto end = [&](std::size_t which, auto getter)
+    { return of_joint(cbox, robot, joint, output_of<2>(which, getter, cbox, robot, joint)); };
+    list.setting("spec_angle_1", "deg", end(0, qorin_rpc_robot_spec_joint_angle_get));
+    list.setting("spec_angle_2", "deg", end(1, qorin_rpc_robot_spec_joint_angle_get));
+    list.setting("spec_speed", "deg/s", of(qorin_rpc_robot_spec_joint_speed_max_get));
+    list.setting("safety_angle_1", "deg", end(0, qorin_rpc_robot_safety_limit_joint_angle_get));
+    list.setting("safety_angle_2", "deg", end(1, qorin_rpc_robot_safety_limit_joint_angle_get));
     list.setting("safety_speed", "deg/s", of(qorin_rpc_robot_safety_limit_joint_speed_max_get));
     list.setting("safety_acceleration", "deg/s2", of(qorin_rpc_robot_safety_limit_joint_acc_max_get));
 }
@@ -228,12 +236,12 @@ void add_tcp(field_list& list, unsigned int cbox, unsigned int robot)
         const char* const unit = i < 3 ? "mm" : "deg";
         add("tcp", unit, axes[i], output_of<6>(i, qorin_rpc_robot_tcp_pose_actual_get, cbox, robot), false);
         add("tcp_command", unit, axes[i], output_of<6>(i, qorin_rpc_robot_tcp_pose_command_get, cbox, robot), false);
-        add("tool", unit, axes[i], output_of<6>(i, qorin_rpc_robot_tcp_from_flange_get, cbox, robot), true);
+        add("tool", unit, axes[i], output_of<6>(i, qorin_rpc_robot_tcp_from_flange_get, cbox, robot), false);
     }
     constexpr const char* payload[] = {"mass", "x", "y", "z"};
     for (std::size_t i = 0; i < 4; ++i)
         add("payload", i == 0 ? "kg" : "mm", payload[i], output_of<4>(i, qorin_rpc_robot_tcp_payload_get, cbox, robot),
-            true);
+            false);
     for (std::size_t i = 0; i < 3; ++i)
     {
         add("tcp_speed", "mm/s", axes[i], output_of<3>(i, qorin_rpc_robot_tcp_pos_speed_actual_get, cbox, robot),
@@ -243,6 +251,15 @@ void add_tcp(field_list& list, unsigned int cbox, unsigned int robot)
         add("torque", "Nm", axes[i], output_of<3>(i, qorin_rpc_robot_force_torq_sensor_actual_torq_get, cbox, robot),
             false);
     }
+}
+
+void add_planes(field_list& list, unsigned int cbox, unsigned int robot)
+{
+    constexpr const char* parts[] = {"x", "y", "z", "distance"};
+    for (unsigned int plane = 0; plane < plane_limit; ++plane)
+        for (std::size_t i = 0; i < 4; ++i)
+            list.setting(fmt::format("safety_plane{}.{}", plane, parts[i]), i < 3 ? "" : "mm",
+                         plane_of(cbox, robot, plane, i));
 }
 
 void add_tool(field_list& list, unsigned int cbox, unsigned int robot)
@@ -271,9 +288,35 @@ std::vector<status_field> status_fields(unsigned int cbox_id)
         }
         list.beginning = beginning;
         add_tcp(list, cbox_id, robot);
+        add_planes(list, cbox_id, robot);
         add_tool(list, cbox_id, robot);
     }
     return std::move(list.fields);
+}
+
+std::vector<field_value> read_fields(const std::vector<status_field>& fields)
+{
+    constexpr int tries = 10;
+    std::vector<field_value> values;
+    for (const status_field& field : fields)
+        values.push_back(field.read());
+    // Where a robot moves, each frame changes what is in these units.
+    const auto is_place = [](const status_field& field)
+    { return !field.is_setting && (field.unit == "deg" || field.unit == "mm"); };
+    bool is_whole = false;
+    for (int turn = 0; turn < tries && !is_whole; ++turn)
+    {
+        is_whole = true;
+        for (std::size_t i = 0; i < fields.size(); ++i)
+        {
+            if (!is_place(fields[i]))
+                continue;
+            field_value now = fields[i].read();
+            is_whole = is_whole && now == values[i];
+            values[i] = std::move(now);
+        }
+    }
+    return values;
 }
 
 bool matches_any(const std::string& name, const std::vector<std::string>& patterns)
@@ -291,12 +334,24 @@ void expect_matches(const std::vector<std::string>& names, const std::vector<std
 
 void robot_watch::look()
 {
+    const auto now = clock::now();
+    if (now < next_look_)
+        return;
+    next_look_ = now + std::chrono::milliseconds(100);
+    // Searching for a module reads a directory and writes lines.
+    const bool may_search = now >= next_search_;
     QORIN_CBOX_MODEL model{};
     qorin_rpc_cbox_name_get(cbox_id_, &model); // what follows is for the control box that was asked last
     for (unsigned int robot = 0; robot < robot_limit; ++robot)
-        if (!is_known(robot) && !lacks_module_[robot]) // searching for a module again would take long
-            lacks_module_[robot] =
-                qorin_robot_attach(robot) == QORIN_API_RESULT_ROBOT_CLIENT_KINEMATICS_MODULE_LOAD_FAILURE;
+    {
+        if (lacks_module_[robot] && !may_search)
+            continue;
+        // One that is known gets its table anew, which another program may have changed.
+        lacks_module_[robot] =
+            qorin_robot_attach(robot) == QORIN_API_RESULT_ROBOT_CLIENT_KINEMATICS_MODULE_LOAD_FAILURE;
+        if (lacks_module_[robot])
+            next_search_ = now + std::chrono::seconds(10);
+    }
 }
 
 bool robot_watch::is_known(unsigned int robot) const

@@ -2,6 +2,7 @@
 #define TOOLS_QORIN_STATUS_STATUS_FIELDS_H
 
 #include <array>
+#include <chrono>
 #include <functional>
 #include <string>
 #include <variant>
@@ -32,9 +33,16 @@ struct status_field : field_info
 
 constexpr unsigned int robot_limit = 2;
 constexpr unsigned int joint_limit = 6;
+constexpr unsigned int plane_limit = 10;
 
 /// All values of the status that people look at, with those of robots and joints that may come later.
 [[nodiscard]] std::vector<status_field> status_fields(unsigned int cbox_id);
+
+/**
+ * All values; where the robots are, as far as can be, from one frame: the mirror changes while it is read. So joints
+ * and TCPs are read again until they stay the same, a few times at most.
+ */
+[[nodiscard]] std::vector<field_value> read_fields(const std::vector<status_field>& fields);
 
 /// Whether a name matches one of the patterns, which have * and ? as those of files do.
 [[nodiscard]] bool matches_any(const std::string& name, const std::vector<std::string>& patterns);
@@ -58,7 +66,7 @@ class robot_watch
 public:
     explicit robot_watch(unsigned int cbox_id) : cbox_id_(cbox_id) {}
 
-    /// Has a look at the mirror. To be called now and then; costs nothing to speak of.
+    /// Has a look at the mirror, ten times a second at most. To be called often.
     void look();
 
     /// Whether a robot stands that cannot be looked at, since no kinematics module serves its model.
@@ -68,8 +76,12 @@ public:
     [[nodiscard]] robot_description describe(unsigned int robot) const;
 
 private:
+    using clock = std::chrono::steady_clock;
+
     unsigned int cbox_id_;
     std::array<bool, robot_limit> lacks_module_{};
+    clock::time_point next_look_{};
+    clock::time_point next_search_{};
 };
 } // namespace qorin_cli
 

@@ -203,9 +203,10 @@ std::string cut(const std::string& text, int columns)
 
 status_reading::status_reading(const std::vector<status_field>& fields)
 {
-    for (const status_field& field : fields)
-        if (field_value value = field.read(); !std::holds_alternative<std::monostate>(value))
-            values_.emplace(field.name, std::move(value));
+    std::vector<field_value> values = read_fields(fields);
+    for (std::size_t i = 0; i < fields.size(); ++i)
+        if (!std::holds_alternative<std::monostate>(values[i]))
+            values_.emplace(fields[i].name, std::move(values[i]));
 }
 
 double status_reading::number(const std::string& name) const
