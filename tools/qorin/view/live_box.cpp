@@ -6,14 +6,15 @@
 #include <thread>
 #include <utility>
 
-#include "qorin/qorin_api_rpc_client.h"
-#include "tools/qorin/view/link_watch.h"
+#include "qorin/event_codes.h"
+#include "qorin/system.h"
+#include "tools/qorin/status/live_links.h"
+#include "tools/qorin/view/robot_fields.h"
 
 namespace qorin_view
 {
 namespace
 {
-using clock = std::chrono::steady_clock;
 using namespace std::chrono_literals;
 
 double seconds_since_epoch(std::chrono::system_clock::time_point time)
@@ -21,33 +22,21 @@ double seconds_since_epoch(std::chrono::system_clock::time_point time)
     return std::chrono::duration<double>(time.time_since_epoch()).count();
 }
 
-/// Who is told to have the control: the control box does not say in its status, only in events.
-enum class control_state : std::uint32_t
-{
-    unknown,
-    taken,
-    released
-};
-
-enum class robot_state : std::uint32_t
-{
-    none,
-    attached,
-    no_module ///< no kinematics module serves its model, so the library does not know it
-};
-
 struct connection
 {
     unsigned int cbox_id;
-    link_watch link;
+    qorin_cli::live_links links;
+    std::vector<qorin_cli::status_field> fields;
+    qorin_cli::robot_watch robots;
 };
 
 connection connect_and_listen(const qorin_cli::connection_options& options)
 {
-    const std::set<ino_t> before = link_watch::sockets();
+    const std::set<ino_t> before = qorin_cli::live_links::sockets();
     const unsigned int cbox_id = qorin_cli::connect(options);
     qorin_cli::collect_events(cbox_id);
-    return {cbox_id, link_watch(options.address, before)};
+    return {cbox_id, qorin_cli::live_links(options.address, before), qorin_cli::status_fields(cbox_id),
+            qorin_cli::robot_watch(cbox_id)};
 }
 
 /// On a thread of its own: connecting takes seconds, or minutes where nobody answers, and the library binds the thread
@@ -66,12 +55,18 @@ public:
     explicit live_box(const qorin_cli::connection_options& options)
         : options_(options), connection_(connect_aside(options).get())
     {
-        add_own_fields();
-        for (status_field& field : mirror_fields())
-            fields_.push_back(std::move(field));
+        // Who has the control is told by events alone.
+        fields_ = {{"link.state", field_info::word},
+                   {"link.frame_rate", "1/s"},
+                   {"link.longest_gap", "ms"},
+                   {"link.gaps", ""},
+                   {"cbox.control", field_info::word}};
+        add_robot_fields(fields_);
+        for (const field_info& field : connection_.fields)
+            fields_.push_back(field);
     }
 
-    const std::vector<status_field>& fields() const override { return fields_; }
+    const std::vector<field_info>& fields() const override { return fields_; }
     std::string name() const override { return options_.address; }
 
     std::string control_software() const override
@@ -80,22 +75,23 @@ public:
         return version == nullptr ? "" : version;
     }
 
-    double read(double /*time*/, words into) override
+    reading read(double /*time*/) override
     {
         take_new_connection();
+        // A connection that is under way changes what getters look up: the mirror's values stay meanwhile.
         if (!pending_)
-            attach_robots();
-        for (const status_field& field : fields_)
         {
-            // A connection that is under way changes what getters look up.
-            if (!pending_ || field.name.starts_with("link."))
-                field.read(connection_.cbox_id, into.first(field.count));
-            into = into.subspan(field.count);
+            connection_.robots.look();
+            mirror_ = qorin_cli::read_fields(connection_.fields);
         }
-        return seconds_since_epoch(std::chrono::system_clock::now());
+        const qorin_cli::live_links& links = connection_.links;
+        values_ = {link_word(), links.frame_rate(), links.longest_gap(), static_cast<double>(links.gaps()), control_};
+        add_robot_values(robots(), values_);
+        values_.insert(values_.end(), mirror_.begin(), mirror_.end());
+        return {seconds_since_epoch(std::chrono::system_clock::now()), values_};
     }
 
-    void look() override { connection_.link.look(); }
+    void look() override { connection_.links.look(); }
 
     std::vector<event_record> take_events() override
     {
@@ -112,25 +108,26 @@ public:
 
     void connect_again() override
     {
-        if (!pending_ && connection_.link.state() != link_state::connected)
+        if (!pending_ && connection_.links.link_state() != qorin_cli::live_links::state::connected)
             pending_ = connect_aside(options_);
     }
 
 private:
-    void add_own_fields()
+    [[nodiscard]] std::string link_word() const
     {
-        const auto add = [this](const char* name, field_type type, std::function<std::uint32_t()> get) {
-            fields_.push_back({name, type, 1, [get](unsigned int, words into) { into[0] = get(); }});
-        };
-        add("link.state", field_type::integer,
-            [this]
-            { return static_cast<std::uint32_t>(pending_ ? link_state::connecting : connection_.link.state()); });
-        add("link.frame_rate", field_type::number, [this] { return word_of(connection_.link.frame_rate()); });
-        add("link.longest_gap", field_type::number, [this] { return word_of(connection_.link.longest_gap()); });
-        add("link.gaps", field_type::integer, [this] { return connection_.link.gaps(); });
-        add("box.control", field_type::integer, [this] { return static_cast<std::uint32_t>(control_); });
-        add("robots.0.state", field_type::integer, [this] { return static_cast<std::uint32_t>(robots_[0]); });
-        add("robots.1.state", field_type::integer, [this] { return static_cast<std::uint32_t>(robots_[1]); });
+        constexpr const char* words[] = {"CONNECTED", "SILENT", "LOST"};
+        return pending_ ? "CONNECTING" : words[static_cast<std::size_t>(connection_.links.link_state())];
+    }
+
+    [[nodiscard]] const standing_robots& robots()
+    {
+        if (!pending_)
+            for (unsigned int id = 0; id < robots_.size(); ++id)
+                robots_[id] = connection_.robots.is_known(id)
+                                  ? standing_robot{standing::known, connection_.robots.describe(id)}
+                              : connection_.robots.lacks_module(id) ? standing_robot{standing::no_module, {}}
+                                                                    : standing_robot{};
+        return robots_;
     }
 
     void take_new_connection()
@@ -143,8 +140,7 @@ private:
             // A box that was but silent may speak again, and each event would come twice.
             qorin_cli::stop_collecting_events(connection_.cbox_id);
             connection_ = std::move(made);
-            control_ = control_state::unknown;
-            next_attaching_ = {};
+            control_.clear();
         }
         catch (const std::exception& error)
         {
@@ -155,56 +151,21 @@ private:
     void note_control(const qorin_cli::event& told)
     {
         if (told.subgroup == QORIN_EVENT_SUBGRP_NOTIFICATION_CONTROL_TAKE)
-            control_ = control_state::taken;
+            control_ = "TAKEN";
         if (told.subgroup == QORIN_EVENT_SUBGRP_NOTIFICATION_CONTROL_RELEASE)
-            control_ = control_state::released;
-    }
-
-    /// Again and again: robots come and go, and their tables change.
-    void attach_robots()
-    {
-        const auto now = clock::now();
-        if (now < next_attaching_)
-            return;
-        next_attaching_ = now + 500ms;
-        // Asks something of this control box, which makes it the one whose robots are attached.
-        QORIN_CBOX_MODEL model{};
-        if (qorin_rpc_cbox_name_get(connection_.cbox_id, &model) != QORIN_API_RESULT_OK)
-            return;
-        for (unsigned int id = 0; id < robots_.size(); ++id)
-        {
-            // Looking for a module reads a directory and writes lines, so it is not done twice a second.
-            if (robots_[id] == robot_state::no_module && now < next_search_)
-                continue;
-            robots_[id] = attach(id);
-            if (robots_[id] == robot_state::no_module)
-                next_search_ = now + 10s;
-        }
-    }
-
-    static robot_state attach(unsigned int id)
-    {
-        switch (qorin_robot_attach(id))
-        {
-        case QORIN_API_RESULT_OK:
-            return robot_state::attached;
-        case QORIN_API_RESULT_ROBOT_CLIENT_KINEMATICS_MODULE_LOAD_FAILURE:
-            return robot_state::no_module;
-        default:
-            return robot_state::none;
-        }
+            control_ = "RELEASED";
     }
 
     qorin_cli::connection_options options_;
     connection connection_;
     std::optional<std::future<connection>> pending_;
-    std::vector<status_field> fields_;
-    std::array<robot_state, 2> robots_{};
-    control_state control_ = control_state::unknown;
+    std::vector<field_info> fields_;
+    std::vector<field_value> mirror_;
+    std::vector<field_value> values_;
+    standing_robots robots_{};
+    std::string control_; ///< empty: not told yet
     std::uint64_t event_count_ = 0;
     std::string notice_;
-    clock::time_point next_attaching_{};
-    clock::time_point next_search_{};
 };
 } // namespace
 

@@ -1,6 +1,10 @@
 #include "tools/qorin/view/message.h"
 
+#include <array>
+#include <bit>
 #include <cstring>
+#include <limits>
+#include <numeric>
 
 #include <nlohmann/json.hpp>
 
@@ -17,26 +21,66 @@ std::string dump(const json& value)
     return value.dump(-1, ' ', false, json::error_handler_t::replace); // a text of a control box may be anything
 }
 
-const char* name_of(field_type type)
+constexpr std::size_t text_words = 8; // enough for what the mirror has: 32 characters
+
+/// How a field is sent.
+struct encoding
 {
-    switch (type)
-    {
-    case field_type::number:
-        return "number";
-    case field_type::integer:
-        return "integer";
-    case field_type::text:
-        return "text";
-    }
-    return "";
+    const char* type;
+    std::size_t count; ///< words
+};
+
+encoding encoding_of(const field_info& field)
+{
+    if (field.unit == field_info::word)
+        return {"text", text_words};
+    return {field.unit == field_info::bits ? "integer" : "number", 1};
+}
+
+std::uint32_t word_of(const field_info& field, const field_value& value)
+{
+    const auto* const number = std::get_if<double>(&value);
+    if (field.unit == field_info::bits)
+        return number == nullptr ? 0 : static_cast<std::uint32_t>(*number);
+    constexpr float nothing = std::numeric_limits<float>::quiet_NaN();
+    return std::bit_cast<std::uint32_t>(number == nullptr ? nothing : static_cast<float>(*number));
 }
 } // namespace
+
+std::size_t word_count(const std::vector<field_info>& fields)
+{
+    return std::accumulate(fields.begin(), fields.end(), std::size_t{0},
+                           [](std::size_t sum, const field_info& field) { return sum + encoding_of(field).count; });
+}
+
+void write_words(const std::vector<field_info>& fields, std::span<const field_value> values, words& state)
+{
+    auto into = state.begin();
+    for (std::size_t i = 0; i < fields.size(); ++i)
+    {
+        if (fields[i].unit != field_info::word)
+        {
+            *into++ = word_of(fields[i], values[i]);
+            continue;
+        }
+        std::array<char, text_words * sizeof(std::uint32_t)> letters{};
+        if (const auto* const text = std::get_if<std::string>(&values[i]))
+            text->copy(letters.data(), letters.size() - 1);
+        std::memcpy(&*into, letters.data(), letters.size());
+        into += text_words;
+    }
+}
 
 std::string hello_text(const status_source& source, double rate)
 {
     json fields = json::array();
-    for (const status_field& field : source.fields())
-        fields.push_back({{"name", field.name}, {"type", name_of(field.type)}, {"count", field.count}});
+    for (const field_info& field : source.fields())
+    {
+        const auto [type, count] = encoding_of(field);
+        const bool has_unit = field.unit != field_info::bits && field.unit != field_info::word;
+        fields.push_back(
+            {{"name", field.name}, {"unit", has_unit ? field.unit : ""}, {"type", type}, {"count", count}});
+    }
     return dump({{"kind", "hello"},
                  {"format", 1},
                  {"name", source.name()},
@@ -54,8 +98,9 @@ std::string event_text(const event_record& record)
     return dump({{"kind", "event"},
                  {"number", record.number},
                  {"time", record.time},
-                 {"group", event.group},
-                 {"subgroup", event.subgroup},
+                 {"group", event.group_name()},
+                 {"event", event.name()},
+                 {"code", event.subgroup},
                  {"sender", event.sender},
                  {"values", event.parameters},
                  {"description", known.description},
@@ -68,7 +113,7 @@ std::string notice_text(const std::string& line)
     return dump({{"kind", "notice"}, {"text", line}});
 }
 
-void write_changes(double time, std::span<const std::uint32_t> now, words then, std::string& message)
+void write_changes(double time, const words& now, words& then, std::string& message)
 {
     const std::size_t bits = sizeof time;
     message.assign(bits + (now.size() + 7) / 8, '\0');

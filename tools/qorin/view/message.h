@@ -14,6 +14,12 @@
  */
 namespace qorin_view
 {
+/// The state that a viewer has: words of 32 bits, all fields one behind the other.
+using words = std::vector<std::uint32_t>;
+
+[[nodiscard]] std::size_t word_count(const std::vector<field_info>& fields);
+void write_words(const std::vector<field_info>& fields, std::span<const field_value> values, words& state);
+
 /// The fields in their order, and what is shown.
 [[nodiscard]] std::string hello_text(const status_source& source, double rate);
 
@@ -28,7 +34,7 @@ namespace qorin_view
  *
  * @param then  the words that the viewer has; they become those of `now`.
  */
-void write_changes(double time, std::span<const std::uint32_t> now, words then, std::string& message);
+void write_changes(double time, const words& now, words& then, std::string& message);
 } // namespace qorin_view
 
 #endif

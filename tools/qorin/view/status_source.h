@@ -2,14 +2,18 @@
 #define TOOLS_QORIN_VIEW_STATUS_SOURCE_H
 
 #include <cstdint>
+#include <span>
 #include <string>
 #include <vector>
 
 #include "tools/qorin/status/event_feed.h"
-#include "tools/qorin/view/status_field.h"
+#include "tools/qorin/status/status_fields.h"
 
 namespace qorin_view
 {
+using qorin_cli::field_info;
+using qorin_cli::field_value;
+
 struct event_record
 {
     std::uint64_t number; ///< from 1 on
@@ -23,9 +27,16 @@ struct event_record
 class status_source
 {
 public:
+    /// Valid until the next reading.
+    struct reading
+    {
+        double time; ///< seconds since 1970, in a recording since its start
+        std::span<const field_value> values;
+    };
+
     virtual ~status_source() = default;
 
-    [[nodiscard]] virtual const std::vector<status_field>& fields() const = 0;
+    [[nodiscard]] virtual const std::vector<field_info>& fields() const = 0;
 
     /// What it is: the address of a control box, the name of a recording.
     [[nodiscard]] virtual std::string name() const = 0;
@@ -34,9 +45,8 @@ public:
     /// Seconds that a recording takes; 0 for what is live.
     [[nodiscard]] virtual double duration() const { return 0; }
 
-    /// Reads all fields. `time` is asked for in a recording, in seconds from its start; gives the time of what was
-    /// read.
-    virtual double read(double time, words into) = 0;
+    /// Reads all fields, in their order. `time` is asked for in a recording, in seconds from its start.
+    [[nodiscard]] virtual reading read(double time) = 0;
 
     /// To be called often.
     virtual void look() {}

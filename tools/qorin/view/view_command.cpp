@@ -8,6 +8,7 @@
 #include "tools/qorin/interruption.h"
 #include "tools/qorin/subcommands.h"
 #include "tools/qorin/view/live_box.h"
+#include "tools/qorin/view/recorded_box.h"
 #include "tools/qorin/view/view_server.h"
 
 namespace qorin_cli
@@ -20,6 +21,7 @@ struct view_request
 {
     connection_options box;
     server_options server;
+    std::string recording;
     bool wants_token = false;
 };
 
@@ -37,7 +39,8 @@ int view(view_request request)
     std::optional<view_server> server;
     try
     {
-        server.emplace(request.server, make_live_box(request.box));
+        server.emplace(request.server,
+                       request.recording.empty() ? make_live_box(request.box) : make_recorded_box(request.recording));
     }
     catch (const std::system_error& error)
     {
@@ -54,10 +57,12 @@ int view(view_request request)
 
 void add_view(CLI::App& program, action& chosen)
 {
-    CLI::App* view_app =
-        program.add_subcommand("view", "Show the robots of a control box live on a page for browsers.");
+    CLI::App* view_app = program.add_subcommand(
+        "view", "Show the robots of a control box live, or of a recording, on a page for browsers.");
     const auto request = std::make_shared<view_request>();
     request->box.describe(*view_app);
+    view_app->get_option("--address")->required(false);
+    view_app->add_option("--play", request->recording, "A recording of `qorin record` instead of a control box");
     view_app
         ->add_option("--listen", request->server.address,
                      "IPv4 address to serve on; others than 127.x.x.x need a token")
@@ -69,6 +74,12 @@ void add_view(CLI::App& program, action& chosen)
         ->check(CLI::Range(0.1, 1000.0))
         ->capture_default_str();
     view_app->add_flag("--token", request->wants_token, "Ask viewers for a token also on 127.x.x.x");
-    view_app->callback([request, &chosen] { chosen = [request] { return view(*request); }; });
+    view_app->callback(
+        [request, &chosen]
+        {
+            if (request->box.address.empty() && request->recording.empty())
+                throw CLI::RequiredError("--address or --play");
+            chosen = [request] { return view(*request); };
+        });
 }
 } // namespace qorin_cli

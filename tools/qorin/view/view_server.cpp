@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <deque>
 #include <list>
 #include <optional>
@@ -14,6 +15,7 @@
 #include <boost/beast/core.hpp>
 #include <boost/beast/http.hpp>
 #include <boost/beast/websocket.hpp>
+#include <fmt/format.h>
 
 #include "tools/qorin/view/message.h"
 #include "tools/qorin/view/page_file.h"
@@ -31,9 +33,12 @@ using boost::system::error_code;
 using namespace std::chrono_literals;
 
 constexpr std::size_t connection_limit = 64;
-constexpr std::size_t text_limit = 1024;   ///< that wait for a viewer
+constexpr std::size_t text_limit = 8192;   ///< that wait for a viewer
 constexpr std::size_t history_limit = 200; ///< events that a new viewer is told of
+constexpr double on_the_way_limit = 30;    ///< messages with status that a viewer has not seen yet
 constexpr int send_buffer = 64 * 1024;     ///< so small that a viewer who falls behind is soon noticed
+constexpr double past_time = 60;           ///< seconds of a recording that a viewer may see ahead of a place in it
+constexpr double past_step = 0.2;          ///< seconds from one status of them to the next
 constexpr auto request_time = 10s;
 constexpr std::string_view live_path = "/live";
 
@@ -76,6 +81,12 @@ bool is_plain_host(std::string_view host)
 
 class viewer;
 
+/// A text of its kind alone.
+text mark(std::string_view kind)
+{
+    return std::make_shared<const std::string>(fmt::format(R"({{"kind":"{}"}})", kind));
+}
+
 /// What viewers and their requests have in common. All on the thread that serves.
 struct hall
 {
@@ -86,7 +97,17 @@ struct hall
 
     server_options options;
     std::unique_ptr<status_source> source;
-    std::vector<std::uint32_t> now; ///< as read last
+    /// Reads the state. `time` counts in a recording.
+    void read(double asked)
+    {
+        const status_source::reading told = source->read(asked);
+        write_words(source->fields(), told.values, now);
+        time = told.time;
+    }
+
+    [[nodiscard]] bool is_recording() const { return source->duration() > 0; }
+
+    words now; ///< as read last
     double time = 0;
     std::list<std::weak_ptr<viewer>> viewers{};
     std::deque<text> history{};
@@ -132,15 +153,15 @@ public:
     /// The status is due. While a message is under way it is not: the next one tells of this change too.
     void show()
     {
+        if (on_the_way_ && *on_the_way_ >= on_the_way_limit)
+            return;
         is_due_ = true;
         write();
     }
 
     void tell(const text& what)
     {
-        if (texts_.size() >= text_limit)
-            texts_.pop_front(); // events have numbers: the viewer sees that one is missing
-        texts_.push_back(what);
+        queue(what);
         write();
     }
 
@@ -189,7 +210,11 @@ private:
         const std::string_view word = std::string_view(line).substr(0, space);
         double value = 0;
         std::from_chars(line.data() + std::min(space + 1, line.size()), line.data() + line.size(), value);
-        if (word == "connect")
+        if (!std::isfinite(value))
+            return;
+        if (word == "seen")
+            on_the_way_ = std::max(on_the_way_.value_or(0) - value, 0.0);
+        else if (word == "connect")
             hall_.source->connect_again();
         else if (word == "play")
             is_playing_ = true;
@@ -198,7 +223,28 @@ private:
         else if (word == "pace")
             pace_ = std::clamp(value, 0.0, 100.0);
         else if (word == "seek")
+        {
+            end_past();
             position_ = std::clamp(value, 0.0, hall_.source->duration());
+        }
+        else if (word == "past")
+        {
+            past_ = std::max(position_ - past_time, 0.0);
+            queue(mark("past"));
+        }
+    }
+
+    void end_past()
+    {
+        if (std::exchange(past_, std::nullopt))
+            queue(mark("present"));
+    }
+
+    void queue(const text& what)
+    {
+        if (texts_.size() >= text_limit)
+            texts_.pop_front(); // events have numbers: the viewer sees that one is missing
+        texts_.push_back(what);
     }
 
     void write()
@@ -222,10 +268,20 @@ private:
 
     void write_status()
     {
-        if (hall_.source->duration() == 0)
-            return write_changes(hall_.time, hall_.now, then_, status_);
-        const double time = hall_.source->read(position_, hall_.now);
-        write_changes(time, hall_.now, then_, status_);
+        if (hall_.is_recording())
+        {
+            hall_.read(past_.value_or(position_));
+            if (past_)
+            {
+                is_due_ = true;
+                *past_ += past_step;
+                if (*past_ >= position_)
+                    end_past();
+            }
+        }
+        write_changes(hall_.time, hall_.now, then_, status_);
+        if (on_the_way_)
+            ++*on_the_way_;
     }
 
     void send(asio::const_buffer message, const text& kept)
@@ -244,14 +300,16 @@ private:
     websocket::stream<beast::tcp_stream> socket_;
     hall& hall_;
     std::shared_ptr<place> place_;
-    std::vector<std::uint32_t> then_; ///< as the viewer has it
+    words then_; ///< as the viewer has it
     beast::flat_buffer in_;
     std::deque<text> texts_;
     std::string status_;
+    std::optional<double> on_the_way_; ///< messages with status, to a viewer who tells which ones it has seen
     bool is_open_ = false;
     bool is_due_ = false;
     bool is_writing_ = false;
-    double position_ = 0; ///< in a recording
+    double position_ = 0;        ///< in a recording
+    std::optional<double> past_; ///< what is shown of it ahead of that
     double pace_ = 1;
     bool is_playing_ = true;
 };
@@ -458,8 +516,8 @@ private:
         const auto viewers = present();
         if (viewers.empty())
             return;
-        if (hall_.source->duration() == 0)
-            hall_.time = hall_.source->read(0, hall_.now);
+        if (!hall_.is_recording())
+            hall_.read(0);
         for (const auto& one : viewers)
         {
             one->advance(period_.count());
@@ -484,7 +542,7 @@ private:
         for (const event_record& event : events)
         {
             hall_.history.push_back(std::make_shared<const std::string>(event_text(event)));
-            if (hall_.history.size() > history_limit && hall_.source->duration() == 0)
+            if (hall_.history.size() > history_limit && !hall_.is_recording())
                 hall_.history.pop_front();
             for (const auto& one : viewers)
                 one->tell(hall_.history.back());

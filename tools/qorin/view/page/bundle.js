@@ -1,39 +1,15 @@
 // Bundles the page into one script, one style sheet and one document, and writes them as a C++ source:
 //
-//   node bundle.js NODE_MODULES DIRECTORY_OF_PUBLIC_HEADERS OUTPUT_DIRECTORY
+//   node bundle.js NODE_MODULES OUTPUT_DIRECTORY
 import { readFileSync, readdirSync, writeFileSync } from 'node:fs';
 import { createRequire } from 'node:module';
 import { dirname, join, resolve } from 'node:path';
 import { fileURLToPath } from 'node:url';
 import { gzipSync } from 'node:zlib';
 
-const [modules, headers, output] = process.argv.slice(2).map((path) => resolve(path));
+const [modules, output] = process.argv.slice(2).map((path) => resolve(path));
 const source = join(dirname(fileURLToPath(import.meta.url)), 'src');
 const esbuild = createRequire(join(modules, 'package.json'))('esbuild');
-
-/// Members of all enumerations by their values, without the name of the enumeration in front.
-function enumerations() {
-  const found = {};
-  for (const file of ['enumerations.h', 'event_codes.h']) {
-    const text = readFileSync(join(headers, file), 'utf8').replace(/\/\*.*?\*\//gs, '');
-    for (const [, name, body] of text.matchAll(/typedef enum (\w+)[^{]*\{(.*?)\}/gs)) {
-      found[name] = {};
-      for (const [, member, value] of body.matchAll(/(\w+)\s*=\s*(\d+)/g))
-        found[name][value] ??= member.replace(`${name}_`, '');
-    }
-  }
-  return found;
-}
-
-const enumerationModule = {
-  name: 'enumerations',
-  setup(build) {
-    build.onResolve({ filter: /^enumerations$/ }, () => ({ path: 'enumerations', namespace: 'generated' }));
-    build.onLoad({ filter: /.*/, namespace: 'generated' }, () => ({
-      contents: `export const enumerations = ${JSON.stringify(enumerations())};`,
-    }));
-  },
-};
 
 const bundled = await esbuild.build({
   entryPoints: [join(source, 'main.ts')],
@@ -45,7 +21,6 @@ const bundled = await esbuild.build({
   target: ['chrome100', 'firefox100', 'safari15.4'],
   legalComments: 'none',
   nodePaths: [modules],
-  plugins: [enumerationModule],
 });
 
 /// The licences of the packages that parts of are in the bundle.

@@ -15,8 +15,8 @@ import {
   SphereGeometry,
   Vector3,
 } from 'three';
+import { joints } from './status';
 
-export const joints = 6;
 const toRadians = Math.PI / 180;
 const up = new Vector3(0, 1, 0); // capsules and cylinders stand along y
 
@@ -70,7 +70,7 @@ export class Arm extends Group {
   }
 
   /** Puts the arm into a posture; draws it anew when its table is another. */
-  pose(table: Float32Array, count: number, angles: Float32Array): void {
+  pose(table: number[], count: number, angles: number[]): void {
     const key = `${count}:${table.join()}`;
     if (key !== this.table) {
       this.table = key;
@@ -84,7 +84,9 @@ export class Arm extends Group {
     }
   }
 
-  hold(tool: Float32Array, payload: Float32Array): void {
+  /** What is not known of a tool is taken as nothing. */
+  hold(told: number[], payload: number[]): void {
+    const tool = told.map((value) => value || 0);
     const key = `${tool.join()}:${payload.join()}`;
     if (key === this.toolPose) return;
     this.toolPose = key;
@@ -110,10 +112,10 @@ export class Arm extends Group {
     this.parts.length = 0;
   }
 
-  private draw(table: Float32Array, count: number): void {
+  private draw(table: number[], count: number): void {
     for (const part of this.parts) part.removeFromParent();
     this.dispose();
-    const lengths = table.subarray(joints, 3 * joints);
+    const lengths = table.slice(joints, 3 * joints);
     this.reach = lengths.reduce((sum, length) => sum + Math.abs(length), 0);
     this.thickness = Math.max(this.reach * 0.055, 8);
     this.toolPose = '';
@@ -129,7 +131,7 @@ export class Arm extends Group {
   }
 
   /** The parts that turn with a joint, seen from the frame behind it. */
-  private drawLink(table: Float32Array, joint: number): void {
+  private drawLink(table: number[], joint: number): void {
     const [, d, a, alpha] = [0, 1, 2, 3].map((row) => table[row * joints + joint]);
     const frame = this.frames[joint];
     const taper = 1 - 0.5 * (joint / joints);

@@ -1,13 +1,15 @@
 import { BoxEvent } from './connection';
 import { element, setText } from './element';
-import { eventGroups, eventName, eventTone, nameOf } from './names';
+import { eventGroups, eventName, eventTone } from './names';
 
-const limit = 500;
+const limit = 5000; // events that are kept
 
 /** The events as they came, the latest on top. */
 export class EventList {
+  onSeek?: (time: number) => void; // to where one happened, in a recording
   private last = 0;
   private known: { event: BoxEvent; node: HTMLElement }[] = [];
+  private shown = -1;
   private readonly list = element('ol', 'events');
   private readonly count = element('span', 'dim');
 
@@ -16,7 +18,7 @@ export class EventList {
     private readonly clock: (time: number) => string,
   ) {
     place.append(element('h2', '', 'Events ', this.count), this.list);
-    this.list.append(element('li', 'empty', 'Nothing has happened yet.'));
+    this.clear();
   }
 
   add(event: BoxEvent): void {
@@ -32,15 +34,23 @@ export class EventList {
     setText(this.count, String(this.last));
   }
 
-  /** In a recording, what is later than the time that is shown is not there yet. */
-  showUntil(time: number): void {
-    for (const { event, node } of this.known) node.hidden = event.time > time;
+  /** In a recording, what is later than the time that is shown is faint, and the event of then is in sight. */
+  showAt(time: number): void {
+    const next = this.known.findIndex(({ event }) => event.time > time);
+    const past = next < 0 ? this.known.length : next;
+    if (past === this.shown) return;
+    this.shown = past;
+    this.known.forEach(({ node }, index) => node.classList.toggle('ahead', index >= past));
+    const { node } = this.known[past - 1] ?? this.known[0] ?? {};
+    if (node) this.list.scrollTop = node.offsetTop - this.list.offsetTop - 24;
   }
 
   clear(): void {
     this.last = 0;
     this.known = [];
-    this.list.replaceChildren();
+    this.shown = -1;
+    setText(this.count, '');
+    this.list.replaceChildren(element('li', 'empty', 'Nothing has happened yet.'));
   }
 
   private row(event: BoxEvent): HTMLElement {
@@ -50,20 +60,27 @@ export class EventList {
     };
     fact('What', event.description);
     fact('Do', event.advice);
-    fact('Name', `${nameOf('QORIN_EVENT_GRP', event.group)}, ${nameOf('QORIN_EVENT_SUBGRP', event.subgroup)}`);
+    fact('Name', `${event.group}, ${event.event}`);
     fact('Sender', `${event.sender}${event.carries && event.carries !== 'None.' ? ` (${event.carries})` : ''}`);
     fact('Values', event.values.join(', '));
+    const time = element('time', 'figure', this.clock(event.time));
+    if (this.onSeek) {
+      time.title = 'Go there';
+      time.onclick = (click) => {
+        click.preventDefault();
+        this.onSeek?.(event.time);
+      };
+    }
     const head = element(
       'summary',
       '',
-      element('time', 'figure', this.clock(event.time)),
+      time,
       element('i', 'dot'),
-      element('span', 'name', eventName(event.group, event.subgroup)),
+      element('span', 'name', eventName(event.group, event.event)),
       element('span', 'dim', `${eventGroups[event.group] ?? ''} ${event.sender}`),
     );
     const row = element('li', '', element('details', '', head, more));
-    row.dataset.tone = eventTone(event.group, event.subgroup);
-    row.dataset.number = String(event.number);
+    row.dataset.tone = eventTone(event.group, event.event);
     return row;
   }
 }

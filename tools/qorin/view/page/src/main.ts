@@ -2,11 +2,11 @@ import './style.css';
 import { BoxEvent, Connection } from './connection';
 import { byId, element, setText, setTone } from './element';
 import { EventList } from './events';
-import { nameOf, wordsOf } from './names';
+import { wordsOf } from './names';
 import { RobotPanel } from './panel';
 import { Plot } from './plot';
 import { RobotScene, fullSpeed } from './scene';
-import { LinkState, RobotState, Status } from './status';
+import { Status } from './status';
 import { clockOfRecording, TimeBar } from './timebar';
 
 const clockOfDay = new Intl.DateTimeFormat('en-GB', { hour: '2-digit', minute: '2-digit', second: '2-digit', fractionalSecondDigits: 1 });
@@ -15,13 +15,15 @@ class Page {
   private readonly scene = new RobotScene(byId('scene'));
   private readonly panel = new RobotPanel(byId('panel'));
   private readonly plot = new Plot(byId('plot'));
-  private readonly events = new EventList(byId('events'), (time) => (this.timebar.isShown ? clockOfRecording(time) : clockOfDay.format(time * 1000)));
+  private readonly events = new EventList(byId('events'), (time) => (this.status?.isRecorded ? clockOfRecording(time) : clockOfDay.format(time * 1000)));
   private readonly timebar = new TimeBar(byId('timebar'), (line) => this.connection.send(line));
   private readonly chips = new Map<string, HTMLElement>();
   private readonly connection: Connection;
   private status?: Status;
+  private told: { tcp: number[]; joints: number[]; time: number }[] = []; // as it is shown, by robot
   private trouble = 'Connecting…';
   private lostSince?: number;
+  private showing?: ReturnType<typeof setTimeout>;
 
   constructor() {
     this.timebar.onSeek = () => {
@@ -36,7 +38,11 @@ class Page {
     this.useTheme(localStorage.getItem('theme') ?? (matchMedia('(prefers-color-scheme: light)').matches ? 'light' : 'dark'));
     this.connection = new Connection({
       hello: (status) => this.begin(status),
-      status: (status) => this.show(status),
+      status: (status) => this.take(status),
+      past: (status) => {
+        this.plot.add(status);
+        this.scene.follow(status);
+      },
       event: (event) => this.tell(event),
       notice: (text) => setText(byId('notice'), text),
       trouble: (text) => this.showTrouble(text),
@@ -48,16 +54,31 @@ class Page {
     this.status = status;
     this.timebar.begin(status.hello.duration);
     this.events.clear();
+    this.plot.clear();
+    this.scene.clearTraces();
+    this.events.onSeek = status.isRecorded ? (time) => this.timebar.seek(time) : undefined;
     setText(byId('box'), status.hello.name);
     byId('box').title = `control software ${status.hello.control_software || 'unknown'}, library ${status.hello.library}`;
     document.title = `${status.hello.name} – qorin view`;
   }
 
-  private show(status: Status): void {
-    this.scene.update(status);
+  private take(status: Status): void {
     this.plot.add(status);
-    this.timebar.show(status);
-    if (this.timebar.isShown) this.events.showUntil(status.time);
+    this.scene.follow(status);
+    // What comes meanwhile is shown at once: a machine that is slow to show falls behind in nothing.
+    this.showing ??= setTimeout(() => {
+      this.showing = undefined;
+      this.show(status);
+    }, 20);
+  }
+
+  private show(status: Status): void {
+    this.told = [0, 1].map((id) => ({ tcp: status.vector(`robot${id}.tcp`), joints: status.ofJoints(id, 'angle'), time: status.time }));
+    if (status.isRecorded) {
+      this.timebar.show(status);
+      this.events.showAt(status.time);
+    }
+    this.scene.update(status);
     const shown = status.robots;
     if (shown.length > 0 && !shown.includes(this.panel.robot)) this.choose(shown[0]);
     document.querySelectorAll<HTMLElement>('#robots button').forEach((tab, id) => (tab.hidden = !shown.includes(id)));
@@ -72,29 +93,27 @@ class Page {
   }
 
   private showVacancy(status: Status): void {
-    const unknown = [0, 1].filter((id) => status.integer(`robots.${id}.state`) === RobotState.noModule);
+    const unknown = status.robotsWithoutModule;
     const text = unknown.length > 0
       ? `No kinematics module serves the model of robot ${unknown.join(' and ')}.`
-      : 'There is no robot on the control box.';
+      : status.isRecorded ? 'No robot stood then.' : 'There is no robot on the control box.';
     byId('vacancy').hidden = status.robots.length > 0;
     setText(byId('vacancy'), text);
   }
 
   private showChips(status: Status): void {
-    const recorded = this.timebar.isShown;
-    if (!recorded) {
-      const link = status.link;
+    if (!status.isRecorded) {
       const rate = `${status.number('link.frame_rate').toFixed(0)} frames/s · gap ${status.number('link.longest_gap').toFixed(0)} ms`;
-      const text = [`Connecting`, rate, 'Silent', 'Lost'][link];
-      this.chip('Link', text, ['warn', 'good', 'bad', 'bad'][link]);
-      this.chips.get('Link')!.title = `${status.integer('link.gaps')} gaps since the connection was made`;
+      const isWell = status.link === 'CONNECTED';
+      this.chip('Link', isWell ? rate : wordsOf(status.link), isWell ? 'good' : status.link === 'CONNECTING' ? 'warn' : 'bad');
+      this.chips.get('Link')!.title = `${status.number('link.gaps')} gaps since the connection was made`;
+      const control = status.text('cbox.control');
+      this.chip('Control', { TAKEN: 'Taken', RELEASED: 'Free' }[control] ?? 'Not told yet', control === 'TAKEN' ? 'move' : '');
     }
-    const control = status.integer('box.control');
-    if (!recorded || control > 0) this.chip('Control', ['Not told yet', 'Taken', 'Free'][control] ?? '–', control === 1 ? 'move' : '');
-    const pushed = nameOf('QORIN_BUTTON_STATE', status.integer('box.emergency_button')) === 'PUSHED';
-    this.chip('Emergency', pushed ? 'Pushed' : 'Released', pushed ? 'bad' : '');
-    const ecat = status.integer('box.ecat');
-    if (ecat > 0) this.chip('EtherCAT', wordsOf('QORIN_ECAT_CONN_STATE', ecat), nameOf('QORIN_ECAT_CONN_STATE', ecat) === 'CONNECTED' ? 'good' : 'warn');
+    const button = status.text('cbox.emergency_button');
+    if (button) this.chip('Emergency', wordsOf(button), button === 'PUSHED' ? 'bad' : '');
+    const ecat = status.text('cbox.ecat');
+    if (ecat) this.chip('EtherCAT', wordsOf(ecat), ecat === 'CONNECTED' ? 'good' : 'warn');
   }
 
   private chip(name: string, text: string, tone: string): void {
@@ -116,25 +135,25 @@ class Page {
 
   /** One line over the scene when what is seen is not what is. */
   private showBanner(): void {
-    const link = this.timebar.isShown ? LinkState.connected : (this.status?.link ?? LinkState.connected);
-    const isStale = this.trouble !== '' || link !== LinkState.connected;
+    const link = this.status?.link ?? 'CONNECTED';
+    const isStale = this.trouble !== '' || link !== 'CONNECTED';
     this.lostSince = isStale ? (this.lostSince ?? Date.now()) : undefined;
     const since = `since ${clockOfDay.format(this.lostSince)}; what you see is from then`;
-    const texts: Record<number, string> = {
-      [LinkState.connecting]: 'Connecting to the control box…',
-      [LinkState.silent]: `The control box is silent ${since}.`,
-      [LinkState.lost]: `The control box is lost ${since}.`,
+    const texts: Record<string, string> = {
+      CONNECTING: 'Connecting to the control box…',
+      SILENT: `The control box is silent ${since}.`,
+      LOST: `The control box is lost ${since}.`,
     };
     byId('banner').hidden = !isStale;
     setText(byId('banner-text'), this.trouble || (texts[link] ?? ''));
-    byId('again').hidden = this.trouble !== '' || link === LinkState.connecting;
+    byId('again').hidden = this.trouble !== '' || link === 'CONNECTING';
     if (!isStale) setText(byId('notice'), '');
     document.body.classList.toggle('stale', isStale);
   }
 
   private tell(event: BoxEvent): void {
     this.events.add(event);
-    this.timebar.mark(event);
+    if (this.status?.isRecorded) this.timebar.mark(event);
   }
 
   private choose(id: number): void {
@@ -176,11 +195,14 @@ class Page {
       t: () => this.scene.toggleTraces(),
       '?': () => this.showHelp(),
     };
-    if (this.timebar.isShown && !(event.target instanceof HTMLSelectElement))
+    if (this.status?.isRecorded && !(event.target instanceof HTMLSelectElement))
       Object.assign(actions, {
         ' ': () => this.timebar.toggle(),
         ArrowLeft: () => this.timebar.step(event.shiftKey ? -10 : -1),
         ArrowRight: () => this.timebar.step(event.shiftKey ? 10 : 1),
+        Home: () => this.timebar.seek(0),
+        '[': () => this.timebar.quicken(-1),
+        ']': () => this.timebar.quicken(1),
       });
     const act = actions[event.key.length === 1 ? event.key.toLowerCase() : event.key];
     if (!act) return;
@@ -194,9 +216,9 @@ class Page {
       qorin: {
         frames: () => this.scene.frames,
         drawnTcp: (id: number) => this.scene.drawnTcp(id),
-        toldTcp: (id: number) => Array.from(this.status?.numbers(`robots.${id}.tcp`) ?? []),
-        joints: (id: number) => Array.from(this.status?.numbers(`robots.${id}.joint_angle`) ?? []),
-        time: () => this.status?.time ?? 0,
+        toldTcp: (id: number) => this.told[id]?.tcp ?? [],
+        joints: (id: number) => this.told[id]?.joints ?? [],
+        time: () => this.told[0]?.time ?? 0,
         link: () => this.status?.link,
       },
     });

@@ -1,8 +1,7 @@
 import uPlot from 'uplot';
 import 'uplot/dist/uPlot.min.css';
-import { joints } from './arm';
 import { element, setText } from './element';
-import { Status } from './status';
+import { joints, Status } from './status';
 
 const lasting = 60; // seconds
 const colours = ['#3e8bff', '#1f9d8f', '#e0a13a', '#d9483b', '#7a6ad8', '#8b929c'];
@@ -19,7 +18,7 @@ function perJoint(name: string, unit: string, field: string): Quantity {
     name,
     unit,
     series: Array.from({ length: joints }, (_, joint) => `J${joint}`),
-    read: (status, id) => Array.from(status.numbers(`robots.${id}.${field}`)),
+    read: (status, id) => status.ofJoints(id, field),
   };
 }
 
@@ -28,21 +27,21 @@ function ofAxes(name: string, unit: string, field: string): Quantity {
     name,
     unit,
     series: ['X', 'Y', 'Z'],
-    read: (status, id) => Array.from(status.numbers(`robots.${id}.${field}`).subarray(0, 3)),
+    read: (status, id) => status.vector(`robot${id}.${field}`),
   };
 }
 
 const quantities: Quantity[] = [
-  perJoint('Angle', 'deg', 'joint_angle'),
-  perJoint('Joint speed', 'deg/s', 'joint_speed'),
+  perJoint('Angle', 'deg', 'angle'),
+  perJoint('Joint speed', 'deg/s', 'speed'),
   ofAxes('Position', 'mm', 'tcp'),
   {
     name: 'TCP speed',
     unit: 'mm/s',
     series: ['measured'],
-    read: (status, id) => [Math.hypot(...status.numbers(`robots.${id}.tcp_speed`))],
+    read: (status, id) => [status.speed(id)],
   },
-  perJoint('Torque', 'Nm', 'joint_torque'),
+  perJoint('Torque', 'Nm', 'torque'),
   ofAxes('Force', 'N', 'force'),
   {
     name: 'Frames',

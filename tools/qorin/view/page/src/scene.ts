@@ -23,9 +23,8 @@ import {
   WireframeGeometry,
 } from 'three';
 import { OrbitControls } from 'three/examples/jsm/controls/OrbitControls.js';
-import { Arm, frameAxes, joints, poseMatrix } from './arm';
+import { Arm, frameAxes, poseMatrix } from './arm';
 import { element, setText } from './element';
-import { nameOf } from './names';
 import { Status } from './status';
 import { Trace } from './trace';
 
@@ -67,35 +66,45 @@ class DrawnRobot extends Group {
   }
 
   update(status: Status, id: number): void {
-    const at = (name: string) => `robots.${id}.${name}`;
-    const count = Math.min(status.integer(at('joints')), joints);
-    const table = status.numbers(at('table'));
-    const angles = status.numbers(at('joint_angle'));
-    const commanded = status.numbers(at('joint_angle_command'));
+    const at = (name: string) => `robot${id}.${name}`;
+    const angles = status.ofJoints(id, 'angle');
+    const commanded = status.ofJoints(id, 'angle_command');
+    const count = angles.filter((angle) => !isNaN(angle)).length;
+    const table = [1, 2, 3, 4].flatMap((parameter) => status.ofJoints(id, `dh_${parameter}`));
     this.arm.pose(table, count, angles);
-    this.arm.hold(status.numbers(at('tool')), status.numbers(at('payload')));
+    this.arm.hold(status.pose(at('tool')), [status.number(at('payload.mass')), ...status.vector(at('payload'))]);
     this.ghost.visible = commanded.some((angle, joint) => Math.abs(angle - angles[joint]) > follows);
     if (this.ghost.visible) this.ghost.pose(table, count, commanded);
 
     const size = this.arm.reach * 0.1;
     this.axes.scale.setScalar(size);
-    this.target.matrix.copy(poseMatrix(status.numbers(at('tcp_command')))).scale(new Vector3().setScalar(size * 1.7));
+    const target = status.pose(at('tcp_command'));
+    this.target.visible = !target.some(isNaN);
+    if (this.target.visible)
+      this.target.matrix.copy(poseMatrix(target)).scale(new Vector3().setScalar(size * 1.7));
     this.target.matrixWorldNeedsUpdate = true;
     this.shape.visible = status.isOn(at('bounding_shape'));
     this.shape.scale.setScalar(size);
-    const speed = Math.hypot(...status.numbers(at('tcp_speed')));
-    this.trace.follow(status.time, status.numbers(at('tcp')), speed, fullSpeed(status, id));
-    this.drawPlanes(status.numbers(at('planes')), status.isOn(at('safety_limit')));
-    setText(this.label, `Robot ${id} · ${nameOf('QORIN_ROBOT_MODEL', status.integer(at('model')))}`);
+    this.drawPlanes(status, id);
+    setText(this.label, `Robot ${id} · ${status.text(at('model'))}`);
   }
 
-  private drawPlanes(values: Float32Array, inForce: boolean): void {
+  follow(status: Status, id: number): void {
+    const place = status.vector(`robot${id}.tcp`);
+    if (!place.some(isNaN)) this.trace.follow(status.time, place, status.speed(id), fullSpeed(status, id));
+  }
+
+  private drawPlanes(status: Status, id: number): void {
+    const inForce = status.isOn(`robot${id}.safety_limits`);
+    const values = Array.from({ length: planeLimit }, (_, plane) => {
+      const name = `robot${id}.safety_plane${plane}`;
+      return [...status.vector(name), status.number(`${name}.distance`)];
+    });
     const key = `${inForce}:${this.arm.reach}:${values.join()}`;
     if (key === this.planesKey) return;
     this.planesKey = key;
     this.planes.clear();
-    for (let plane = 0; plane < planeLimit; ++plane) {
-      const [x, y, z, distance] = values.subarray(4 * plane, 4 * plane + 4);
+    for (const [x, y, z, distance] of values) {
       const normal = new Vector3(x, y, z);
       if (normal.lengthSq() > 0) this.planes.add(safetyPlane(normal, distance, this.arm.reach * 1.1, inForce));
     }
@@ -125,7 +134,7 @@ function safetyPlane(normal: Vector3, distance: number, size: number, inForce: b
 
 /** The speed of the TCP that counts as full, in the colours of its trace. */
 export function fullSpeed(status: Status, id: number): number {
-  const limits = ['tcp_safety_speed_max', 'tcp_speed_max'].map((name) => status.number(`robots.${id}.${name}`));
+  const limits = ['safety_tcp_speed', 'spec_tcp_speed'].map((name) => status.number(`robot${id}.${name}`));
   return Math.min(...limits.filter((limit) => limit > 0), 1000);
 }
 
@@ -185,6 +194,11 @@ export class RobotScene {
       this.arrange(shown);
     }
     this.redraw();
+  }
+
+  /** For each status, also where not all are shown. */
+  follow(status: Status): void {
+    for (const id of status.robots) this.robots[id].follow(status, id);
   }
 
   redraw(): void {

@@ -2,6 +2,7 @@
 
 export interface Field {
   name: string;
+  unit: string;
   type: 'number' | 'integer' | 'text';
   count: number;
 }
@@ -16,35 +17,24 @@ export interface Hello {
   fields: Field[];
 }
 
-export enum LinkState {
-  connecting,
-  connected,
-  silent,
-  lost,
-}
-
-export enum RobotState {
-  none,
-  attached,
-  noModule,
-}
+export const joints = 6;
+const axes = ['x', 'y', 'z', 'rx', 'ry', 'rz'];
+const decoder = new TextDecoder();
 
 export class Status {
   time = 0;
-  private readonly offsets = new Map<string, number>();
-  private readonly counts = new Map<string, number>();
+  private readonly fields = new Map<string, { at: number; count: number }>();
   private readonly integers: Uint32Array;
   private readonly floats: Float32Array;
   private readonly bytes: Uint8Array;
 
   constructor(readonly hello: Hello) {
-    let offset = 0;
-    for (const field of hello.fields) {
-      this.offsets.set(field.name, offset);
-      this.counts.set(field.name, field.count);
-      offset += field.count;
+    let at = 0;
+    for (const { name, count } of hello.fields) {
+      this.fields.set(name, { at, count });
+      at += count;
     }
-    this.integers = new Uint32Array(offset);
+    this.integers = new Uint32Array(at);
     this.floats = new Float32Array(this.integers.buffer);
     this.bytes = new Uint8Array(this.integers.buffer);
   }
@@ -63,45 +53,66 @@ export class Status {
         }
   }
 
-  has(name: string): boolean {
-    return this.offsets.has(name);
+  get isRecorded(): boolean {
+    return this.hello.duration > 0;
   }
 
-  integer(name: string): number {
-    return this.integers[this.offset(name)] ?? 0;
+  /** The channels of a field of bits. */
+  bits(name: string): number {
+    const field = this.fields.get(name);
+    return field ? this.integers[field.at] : 0;
+  }
+
+  /** No number where there is none. */
+  number(name: string): number {
+    const field = this.fields.get(name);
+    return field ? this.floats[field.at] : NaN;
+  }
+
+  /** A text, or a member of an enumeration as `MOVING`; empty where there is none. */
+  text(name: string): string {
+    const field = this.fields.get(name);
+    if (!field) return '';
+    const all = this.bytes.subarray(4 * field.at, 4 * (field.at + field.count));
+    const end = all.indexOf(0);
+    return decoder.decode(end < 0 ? all : all.subarray(0, end));
   }
 
   isOn(name: string): boolean {
-    return this.integer(name) === 400100;
+    return this.text(name) === 'ON';
   }
 
-  number(name: string, index = 0): number {
-    return this.floats[this.offset(name) + index] ?? 0;
+  /** What a field tells of each joint of a robot. */
+  ofJoints(robot: number, name: string): number[] {
+    return Array.from({ length: joints }, (_, joint) => this.number(`robot${robot}.joint${joint}.${name}`));
   }
 
-  /** A view: what it shows changes with the next message. */
-  numbers(name: string): Float32Array {
-    const begin = this.offset(name);
-    return this.floats.subarray(begin, begin + (this.counts.get(name) ?? 0));
+  /** x, y and z of what begins so. */
+  vector(name: string): number[] {
+    return axes.slice(0, 3).map((axis) => this.number(`${name}.${axis}`));
   }
 
-  text(name: string): string {
-    const begin = 4 * this.offset(name);
-    const all = this.bytes.subarray(begin, begin + 4 * (this.counts.get(name) ?? 0));
-    const end = all.indexOf(0);
-    return new TextDecoder().decode(end < 0 ? all : all.subarray(0, end));
+  /** Millimetres, and degrees with the rotation Rz * Ry * Rx. */
+  pose(name: string): number[] {
+    return axes.map((axis) => this.number(`${name}.${axis}`));
   }
 
-  get link(): LinkState {
-    return this.integer('link.state');
+  /** How fast the TCP of a robot is, in millimetres a second. */
+  speed(robot: number): number {
+    return Math.hypot(...this.vector(`robot${robot}.tcp_speed`));
+  }
+
+  /** CONNECTING, CONNECTED, SILENT or LOST; a recording has none. */
+  get link(): string {
+    return this.isRecorded ? 'CONNECTED' : this.text('link.state');
   }
 
   /** The robots that can be shown. */
   get robots(): number[] {
-    return [0, 1].filter((id) => this.integer(`robots.${id}.state`) === RobotState.attached);
+    return [0, 1].filter((id) => this.text(`robot${id}.standing`) === 'KNOWN');
   }
 
-  private offset(name: string): number {
-    return this.offsets.get(name) ?? this.integers.length;
+  get robotsWithoutModule(): number[] {
+    return [0, 1].filter((id) => this.text(`robot${id}.standing`) === 'NO_MODULE');
   }
 }

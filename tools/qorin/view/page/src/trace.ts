@@ -33,10 +33,10 @@ export class Trace extends LineSegments2 {
     this.frustumCulled = false;
   }
 
-  follow(time: number, pose: Float32Array, speed: number, fullSpeed: number): void {
-    if (this.last && (time < this.last.time || time > this.last.time + 1)) this.forget();
+  follow(time: number, place: number[], speed: number, fullSpeed: number): void {
+    if (this.last && (time < this.last.time || time > this.last.time + 5)) this.forget();
     while (this.begin < this.end && this.times[this.begin % limit] < time - lasting) this.drop();
-    const next = { time, place: [pose[0], pose[1], pose[2]], colour: colourOf(speed / fullSpeed).toArray() };
+    const next = { time, place, colour: colourOf((speed || 0) / fullSpeed).toArray() };
     if (!this.last) this.last = next;
     this.last.time = time;
     if (Math.hypot(...next.place.map((value, axis) => value - this.last!.place[axis])) < apart) return;
