@@ -14,7 +14,11 @@ if(QORIN_SANITIZE)
 endif()
 # Sources that are compiled as one see each other's private names.
 if(CMAKE_UNITY_BUILD)
-  target_compile_options(qorin_flags INTERFACE -Wno-shadow $<$<COMPILE_LANGUAGE:CXX>:-Wno-subobject-linkage>)
+  target_compile_options(qorin_flags INTERFACE -Wno-shadow $<$<COMPILE_LANG_AND_ID:CXX,GNU>:-Wno-subobject-linkage>)
+endif()
+# Records and numbers are those of x86-64 on every machine: a char has a sign, and a product is rounded ahead of a sum.
+if(NOT CMAKE_SYSTEM_PROCESSOR MATCHES "x86_64|AMD64")
+  target_compile_options(qorin_flags INTERFACE -fsigned-char -ffp-contract=off)
 endif()
 target_include_directories(qorin_flags INTERFACE ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/include)
 

@@ -115,7 +115,8 @@ void thread_help::set_affinity(unsigned long thread, unsigned int core)
     CPU_ZERO(&cores);
     if (core < CPU_SETSIZE)
         CPU_SET(core, &cores);
-    if (pthread_setaffinity_np(thread, sizeof(cores), &cores) < 0)
+    if (pthread_setaffinity_np(thread, sizeof(cores), &cores) <
+        0) // NOLINT(bugprone-posix-return): a failure is no fault
         QORIN_DEBUG_PRINT(QORIN_LOG_TYPE_ERROR, "thread(%s) set inffinity failure\n", name);
     QORIN_DEBUG_PRINT(QORIN_LOG_TYPE_INFO, "thread name : %s, set core#: %d, (core#: %d->%d)\n", name,
                       static_cast<int>(core), core_before, sched_getcpu());
@@ -178,7 +179,7 @@ std::shared_ptr<std::thread> thread_help::run_periodic_task(std::shared_ptr<std:
     return thread;
 }
 
-void thread_help::join_periodic_task(std::shared_ptr<std::thread> thread)
+void thread_help::join_periodic_task(std::shared_ptr<std::thread> thread) // NOLINT(performance-unnecessary-value-param)
 {
     if (thread == nullptr)
     {

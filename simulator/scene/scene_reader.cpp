@@ -173,7 +173,7 @@ private:
 
     [[nodiscard]] std::vector<double> numbers_of(const toml::node& node, std::string_view key, std::size_t count) const
     {
-        const auto numbers = numbers_of(node, key);
+        auto numbers = numbers_of(node, key);
         if (numbers.size() != count)
             fail(node, key, fmt::format("takes {} numbers, not {}", count, numbers.size()));
         return numbers;

@@ -23,7 +23,7 @@ axisAlignedBox::axisAlignedBox(const axisAlignedBox& other)
 {
 }
 
-axisAlignedBox& axisAlignedBox::operator=(const axisAlignedBox& other)
+axisAlignedBox& axisAlignedBox::operator=(const axisAlignedBox& other) // NOLINT(bugprone-unhandled-self-assignment)
 {
     mMinimum = other.mMinimum;
     mMaximum = other.mMaximum;

@@ -11,9 +11,7 @@
 namespace savrent::cc::math_savrent
 {
 using math::plane;
-using math::radToDeg;
 using math::ray;
-using math::util;
 
 namespace
 {

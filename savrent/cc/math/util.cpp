@@ -109,8 +109,9 @@ double util::TanTable(double radians)
 
 double util::UnitRandom()
 {
-    return mRandProvider != nullptr ? mRandProvider->getRandomUnit()
-                                    : static_cast<double>(std::rand() / smallest_rand_max);
+    return mRandProvider != nullptr
+               ? mRandProvider->getRandomUnit()
+               : static_cast<double>(std::rand() / smallest_rand_max); // NOLINT(bugprone-integer-division)
 }
 
 void util::SetRandomValueProvider(randomValueProvider* provider)

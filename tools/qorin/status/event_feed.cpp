@@ -106,8 +106,7 @@ std::vector<event> take_events()
 
 std::string event_line(const event& happened)
 {
-    const std::string line =
-        fmt::format("{}  {}  sender {}", time_of_day(happened.time), happened.name(), happened.sender);
+    std::string line = fmt::format("{}  {}  sender {}", time_of_day(happened.time), happened.name(), happened.sender);
     if (happened.parameters == decltype(happened.parameters){})
         return line;
     return fmt::format("{}  parameters {}", line, fmt::join(happened.parameters, " "));
