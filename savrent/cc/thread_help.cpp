@@ -115,8 +115,8 @@ void thread_help::set_affinity(unsigned long thread, unsigned int core)
     CPU_ZERO(&cores);
     if (core < CPU_SETSIZE)
         CPU_SET(core, &cores);
-    if (pthread_setaffinity_np(thread, sizeof(cores), &cores) <
-        0) // NOLINT(bugprone-posix-return): a failure is no fault
+    // NOLINTNEXTLINE(bugprone-posix-return): a failure is no fault
+    if (pthread_setaffinity_np(thread, sizeof(cores), &cores) < 0)
         QORIN_DEBUG_PRINT(QORIN_LOG_TYPE_ERROR, "thread(%s) set inffinity failure\n", name);
     QORIN_DEBUG_PRINT(QORIN_LOG_TYPE_INFO, "thread name : %s, set core#: %d, (core#: %d->%d)\n", name,
                       static_cast<int>(core), core_before, sched_getcpu());

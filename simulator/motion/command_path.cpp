@@ -120,7 +120,7 @@ Vector3d bulge_to_the_right(const told_points& points, const Vector3d& ahead)
 {
     for (const Vector3d& into_work : {Vector3d(points.start_orientation() * Vector3d::UnitZ()),
                                       Vector3d(-Vector3d::UnitZ()), Vector3d(-Vector3d::UnitX())})
-        if (const Vector3d right = into_work.cross(ahead); right.norm() > 1e-6 * ahead.norm())
+        if (Vector3d right = into_work.cross(ahead); right.norm() > 1e-6 * ahead.norm())
             return right;
     return Vector3d::UnitY();
 }
