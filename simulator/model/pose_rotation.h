@@ -1,16 +1,18 @@
 #ifndef SIMULATOR_MODEL_POSE_ROTATION_H
 #define SIMULATOR_MODEL_POSE_ROTATION_H
 
+#include <array>
+
 #include <Eigen/Core>
 
 #include "kinematics/rotation.h"
-#include "simulator/model/pose.h"
 
 namespace cbox_simulator
 {
-[[nodiscard]] inline Eigen::Matrix3d rotation_of(const pose& of)
+/// How what has the pose is turned: its axes as columns, seen from where the pose is told.
+[[nodiscard]] inline Eigen::Matrix3d rotation_of(const std::array<double, 6>& pose)
 {
-    return savrent::kinematics::rotation_of({of[3], of[4], of[5]});
+    return savrent::kinematics::rotation_of({pose[3], pose[4], pose[5]});
 }
 } // namespace cbox_simulator
 

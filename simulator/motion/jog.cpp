@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "simulator/motion/joint_way.h"
 #include "simulator/motion/pose_frame.h"
 
 namespace cbox_simulator::motion

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "simulator/motion/way_check.h"
+#include "simulator/motion/joint_way.h"
 
 namespace cbox_simulator::motion
 {

@@ -5,6 +5,8 @@
 #include <limits>
 #include <numeric>
 
+#include "simulator/motion/joint_way.h"
+
 namespace cbox_simulator::motion
 {
 namespace
@@ -84,14 +86,6 @@ bool is_within(const joint_bounds& bounds, const joint_array& joints)
         if (!(joints[joint] >= bounds[joint].angle_min && joints[joint] <= bounds[joint].angle_max))
             return false;
     return true;
-}
-
-double farthest(const joint_array& from, const joint_array& to)
-{
-    double way = 0;
-    for (std::size_t joint = 0; joint < joint_count; ++joint)
-        way = std::max(way, std::abs(to[joint] - from[joint]));
-    return way;
 }
 
 double speed_margin(const joint_bounds& bounds, const joint_array& from, const joint_array& to, double seconds)

@@ -17,8 +17,6 @@ struct moving_arm
 };
 
 [[nodiscard]] bool is_within(const joint_bounds& bounds, const joint_array& joints);
-/// The farthest way of a joint. Degrees.
-[[nodiscard]] double farthest(const joint_array& from, const joint_array& to);
 /// The factor to a motion's speed with which every joint is as fast as it may be, when they go from one place to the
 /// other in the time. Infinite when none moves.
 [[nodiscard]] double speed_margin(const joint_bounds& bounds, const joint_array& from, const joint_array& to,
