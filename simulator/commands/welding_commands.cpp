@@ -9,7 +9,6 @@ namespace cbox_simulator
 namespace
 {
 using motion_value::get;
-using motion_value::member_of;
 using motion_value::set;
 using motion_value::set_vector;
 using motion_value::value_of;

@@ -3,6 +3,8 @@
 #include <fstream>
 #include <stdexcept>
 
+#include <fmt/format.h>
+#include <fmt/ranges.h>
 #include <toml++/toml.h>
 
 #include "simulator/printable.h"
@@ -80,7 +82,8 @@ private:
         }
     }
 
-    void check_keys(const toml::table& table, const std::string& where, std::vector<std::string_view> known) const
+    void check_keys(const toml::table& table, const std::string& where,
+                    const std::vector<std::string_view>& known) const
     {
         for (const auto& [key, value] : table)
             if (std::ranges::find(known, key.str()) == known.end())

@@ -4,6 +4,7 @@
 #include <span>
 #include <stdexcept>
 
+#include <fmt/format.h>
 #include <toml++/toml.h>
 
 #include "simulator/printable.h"

@@ -29,7 +29,7 @@ fs::path kinematics_directory()
     std::error_code failed;
     const fs::path prefix = fs::read_symlink("/proc/self/exe", failed).parent_path().parent_path();
     for (const char* libraries : {QORIN_LIBRARY_DIRECTORY, "lib"})
-        if (const fs::path directory = prefix / libraries / "qorin/kinematics"; fs::is_directory(directory, failed))
+        if (fs::path directory = prefix / libraries / "qorin/kinematics"; fs::is_directory(directory, failed))
             return directory;
     return {};
 }
