@@ -9,10 +9,10 @@
 
 namespace cbox_simulator
 {
-/// How what has the pose is turned: its axes as columns, seen from where the pose is told.
-[[nodiscard]] inline Eigen::Matrix3d rotation_of(const std::array<double, 6>& pose)
+/// How what has that pose is turned: its axes as columns, seen from where the pose is told.
+[[nodiscard]] inline Eigen::Matrix3d rotation_of(const std::array<double, 6>& of)
 {
-    return savrent::kinematics::rotation_of({pose[3], pose[4], pose[5]});
+    return savrent::kinematics::rotation_of({of[3], of[4], of[5]});
 }
 } // namespace cbox_simulator
 
