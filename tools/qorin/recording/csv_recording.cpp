@@ -147,9 +147,9 @@ recording_reader::row csv_recording_reader::row_of(const std::string& line) cons
     const double time = number_of(cells[0]);
     if (const auto* const told = &cells[1 + fields]; !told[1].empty())
     {
-        recorded_event happened{time, told[0], told[1], static_cast<unsigned int>(number_of(told[2])), {}};
+        recorded_event happened{time, told[0], told[1], whole<unsigned int>(number_of(told[2])), {}};
         for (std::size_t i = 0; i < happened.parameters.size(); ++i)
-            happened.parameters[i] = static_cast<int>(number_of(told[3 + i]));
+            happened.parameters[i] = whole<int>(number_of(told[3 + i]));
         return happened;
     }
     recorded_sample sample{time, std::vector<field_value>(fields)};
@@ -206,9 +206,9 @@ void csv_recording_reader::read_comment(const std::string& line)
         const std::vector<std::string> cells = cells_of(value);
         if (cells.size() != 4 + 4 * joint_limit)
             complain("a robot with a table that is not whole");
-        recorded_robot robot{number_of(cells[0]), static_cast<unsigned int>(number_of(cells[1])), {}};
+        recorded_robot robot{number_of(cells[0]), whole<unsigned int>(number_of(cells[1])), {}};
         robot.description.model = cells[2];
-        robot.description.joints = static_cast<unsigned int>(number_of(cells[3]));
+        robot.description.joints = whole<unsigned int>(number_of(cells[3]));
         for (std::size_t i = 0; i < 4 * joint_limit; ++i)
             robot.description.dh[i / joint_limit][i % joint_limit] = number_of(cells[4 + i]);
         robots_.push_back(std::move(robot));

@@ -140,7 +140,7 @@ private:
             return nothing;
         if (!from.channel)
             return *number;
-        return static_cast<double>(static_cast<unsigned long>(*number) >> *from.channel & 1);
+        return static_cast<double>(whole<unsigned int>(*number) >> *from.channel & 1);
     }
 
     const recording_info& info_;

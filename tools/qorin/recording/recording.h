@@ -1,8 +1,11 @@
 #ifndef TOOLS_QORIN_RECORDING_RECORDING_H
 #define TOOLS_QORIN_RECORDING_RECORDING_H
 
+#include <algorithm>
 #include <array>
+#include <cmath>
 #include <filesystem>
+#include <limits>
 #include <map>
 #include <memory>
 #include <string>
@@ -36,6 +39,15 @@ struct recorded_robot
     unsigned int robot = 0;
     robot_description description;
 };
+
+/// A whole number of a file that anybody may have written: the nearest one that there is, 0 for none.
+template <typename Whole>
+[[nodiscard]] Whole whole(double number)
+{
+    using limits = std::numeric_limits<Whole>;
+    static_assert(limits::digits < std::numeric_limits<double>::digits);
+    return std::isnan(number) ? 0 : static_cast<Whole>(std::clamp<double>(number, limits::min(), limits::max()));
+}
 
 struct recording_info
 {

@@ -207,7 +207,7 @@ sqlite_recording_reader::sqlite_recording_reader(const std::filesystem::path& fi
     : database_(file, SQLITE_OPEN_READONLY)
 {
     recording_statement id(database_, "PRAGMA application_id");
-    if (!id.step() || static_cast<int>(id.number(0)) != application_id)
+    if (!id.step() || whole<int>(id.number(0)) != application_id)
         throw failure(fmt::format("{} is no recording of qorin", file.string()));
     id.reset();
     read_head();
@@ -234,9 +234,9 @@ void sqlite_recording_reader::find_rows()
 recorded_event sqlite_recording_reader::event_of_row() const
 {
     const recording_statement& told = *event_rows_;
-    recorded_event happened{told.number(0), told.text(1), told.text(2), static_cast<unsigned int>(told.number(3)), {}};
+    recorded_event happened{told.number(0), told.text(1), told.text(2), whole<unsigned int>(told.number(3)), {}};
     for (int column = 4; int& parameter : happened.parameters)
-        parameter = static_cast<int>(told.number(column++));
+        parameter = whole<int>(told.number(column++));
     return happened;
 }
 
@@ -253,13 +253,13 @@ void sqlite_recording_reader::read_head()
                                           " WHERE time = ? AND robot = ? AND joint BETWEEN 0 AND 5");
     while (robots.step())
     {
-        recorded_robot robot{robots.number(0), static_cast<unsigned int>(robots.number(1)), {}};
+        recorded_robot robot{robots.number(0), whole<unsigned int>(robots.number(1)), {}};
         robot.description.model = robots.text(2);
-        robot.description.joints = static_cast<unsigned int>(robots.number(3));
+        robot.description.joints = whole<unsigned int>(robots.number(3));
         joints.bind(robots.value(0)).bind(robots.value(1));
         while (joints.step())
             for (int column = 1; auto& parameter : robot.description.dh)
-                parameter.at(static_cast<std::size_t>(joints.number(0))) = joints.number(column++);
+                parameter.at(whole<unsigned int>(joints.number(0))) = joints.number(column++);
         robots_.push_back(std::move(robot));
     }
 }

@@ -15,6 +15,9 @@ namespace qorin_view
 {
 namespace
 {
+/// What a connection has made of threads and sockets stays until the process ends.
+constexpr unsigned int connection_limit = 100;
+
 using namespace std::chrono_literals;
 
 double seconds_since_epoch(std::chrono::system_clock::time_point time)
@@ -108,8 +111,15 @@ public:
 
     void connect_again() override
     {
-        if (!pending_ && connection_.links.link_state() != qorin_cli::live_links::state::connected)
-            pending_ = connect_aside(options_);
+        if (pending_ || connection_.links.link_state() == qorin_cli::live_links::state::connected)
+            return;
+        if (connection_count_ == connection_limit)
+        {
+            notice_ = "connected too often: start qorin view again";
+            return;
+        }
+        ++connection_count_;
+        pending_ = connect_aside(options_);
     }
 
 private:
@@ -165,6 +175,7 @@ private:
     standing_robots robots_{};
     std::string control_; ///< empty: not told yet
     std::uint64_t event_count_ = 0;
+    unsigned int connection_count_ = 0;
     std::string notice_;
 };
 } // namespace

@@ -9,6 +9,7 @@
 #include <nlohmann/json.hpp>
 
 #include "qorin/system.h"
+#include "tools/qorin/recording/recording.h"
 
 namespace qorin_view
 {
@@ -41,7 +42,7 @@ std::uint32_t word_of(const field_info& field, const field_value& value)
 {
     const auto* const number = std::get_if<double>(&value);
     if (field.unit == field_info::bits)
-        return number == nullptr ? 0 : static_cast<std::uint32_t>(*number);
+        return number == nullptr ? 0 : qorin_cli::whole<std::uint32_t>(*number);
     constexpr float nothing = std::numeric_limits<float>::quiet_NaN();
     return std::bit_cast<std::uint32_t>(number == nullptr ? nothing : static_cast<float>(*number));
 }

@@ -6,6 +6,7 @@
 #include <deque>
 #include <list>
 #include <optional>
+#include <system_error>
 #include <thread>
 #include <utility>
 
@@ -15,6 +16,7 @@
 #include <boost/beast/core.hpp>
 #include <boost/beast/http.hpp>
 #include <boost/beast/websocket.hpp>
+#include <boost/system/system_error.hpp>
 #include <fmt/format.h>
 
 #include "tools/qorin/view/message.h"
@@ -153,7 +155,7 @@ public:
     /// The status is due. While a message is under way it is not: the next one tells of this change too.
     void show()
     {
-        if (on_the_way_ && *on_the_way_ >= on_the_way_limit)
+        if (has_enough())
             return;
         is_due_ = true;
         write();
@@ -213,7 +215,10 @@ private:
         if (!std::isfinite(value))
             return;
         if (word == "seen")
+        {
             on_the_way_ = std::max(on_the_way_.value_or(0) - value, 0.0);
+            write();
+        }
         else if (word == "connect")
             hall_.source->connect_again();
         else if (word == "play")
@@ -227,12 +232,14 @@ private:
             end_past();
             position_ = std::clamp(value, 0.0, hall_.source->duration());
         }
-        else if (word == "past")
+        else if (word == "past" && hall_.is_recording())
         {
             past_ = std::max(position_ - past_time, 0.0);
             queue(mark("past"));
         }
     }
+
+    [[nodiscard]] bool has_enough() const { return on_the_way_ && *on_the_way_ >= on_the_way_limit; }
 
     void end_past()
     {
@@ -258,7 +265,7 @@ private:
             socket_.text(true);
             send(asio::buffer(*next), next);
         }
-        else if (std::exchange(is_due_, false))
+        else if (!has_enough() && std::exchange(is_due_, false))
         {
             write_status();
             socket_.binary(true);
@@ -565,8 +572,12 @@ private:
 };
 
 view_server::view_server(const server_options& options, std::unique_ptr<status_source> source)
-    : server_(std::make_unique<running_server>(options, std::move(source)))
+try : server_(std::make_unique<running_server>(options, std::move(source)))
 {
+}
+catch (const boost::system::system_error& error) // no std::system_error before Boost 1.79
+{
+    throw std::system_error(error.code());
 }
 
 view_server::~view_server() = default;

@@ -112,6 +112,9 @@ class Page {
     }
     const button = status.text('cbox.emergency_button');
     if (button) this.chip('Emergency', wordsOf(button), button === 'PUSHED' ? 'bad' : '');
+    const isBasePushed = [0, 1, 2, 3].some((at) => status.text(`cbox.amr_emergency_button${at}`) === 'PUSHED');
+    if (isBasePushed || this.chips.has('Mobile base'))
+      this.chip('Mobile base', isBasePushed ? 'Emergency pushed' : 'Released', isBasePushed ? 'bad' : '');
     const ecat = status.text('cbox.ecat');
     if (ecat) this.chip('EtherCAT', wordsOf(ecat), ecat === 'CONNECTED' ? 'good' : 'warn');
   }

@@ -16,7 +16,7 @@ export const eventGroups: Record<string, string> = {
   MODBUS_NOTI: 'Modbus',
 };
 
-const prefixes = /^(ERROR|MOTION_COMMAND|ROBOT_SAFETY|ROBOT_SPEC|ROBOT_COLLISION|ROBOT_REDUNDANT_IO|CONTROL_BOX_BUTTON_CHANGED|NOTIFICATION|MODBUS_NOTI)_/;
+const prefixes = /^(ERROR|MOTION_COMMAND|ROBOT(?=_SAFETY_MODULE_)|ROBOT_SAFETY|ROBOT_SPEC|ROBOT_COLLISION|ROBOT_REDUNDANT_IO|CONTROL_BOX_BUTTON_CHANGED|NOTIFICATION|MODBUS_NOTI)_/;
 
 /** The name of an event without what its group says already. */
 export function eventName(group: string, name: string): string {
@@ -26,7 +26,13 @@ export function eventName(group: string, name: string): string {
 
 const serious = ['ERROR', 'ROBOT_SAFETY_VIOLATED', 'ROBOT_SPEC_VIOLATED', 'ROBOT_COLLISION_DETECTED'];
 const noted = ['ROBOT_REDUNDANT_IO', 'CONTROL_BOX_BUTTON_CHANGED'];
-const notedEvents = ['NOTIFICATION_SYSTEM_FAIL_TO_INITIALIZED', 'NOTIFICATION_ECAT_DISCONNECTED', 'NOTIFICATION_CONTROL_SW_EXIT'];
+const notedEvents = [
+  'NOTIFICATION_SYSTEM_FAIL_TO_INITIALIZED',
+  'NOTIFICATION_ECAT_DISCONNECTED',
+  'NOTIFICATION_CONTROL_SW_EXIT',
+  'NOTIFICATION_DYNAMICS_CALIBRATION_NOT_COMPLETED',
+  'MODBUS_NOTI_WELDER_ERROR',
+];
 
 /** How serious an event is, as a class of the style sheet. */
 export function eventTone(group: string, name: string): string {

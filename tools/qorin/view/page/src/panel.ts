@@ -99,7 +99,8 @@ class Lamps {
     this.node = element('div', 'lamps', element('span', 'caption', title), element('span', 'row', ...this.lamps));
   }
 
-  show(status: Status): void {
+  show(status: Status, isChosen = true): void {
+    this.node.hidden = !isChosen || !status.has(this.field);
     const bits = status.bits(this.field);
     if (bits === this.shown) return;
     this.shown = bits;
@@ -160,7 +161,7 @@ export class RobotPanel {
   ]);
 
   constructor(place: HTMLElement) {
-    const units = ['', '', 'deg', 'deg/s', 'Nm'].map((unit) => element('th', '', unit));
+    const units = ['', '', 'deg', 'deg/s', 'torque'].map((unit) => element('th', '', unit));
     const rows = element('tbody', '', ...this.rows.map(({ node }) => node));
     const pose = this.pose.map((value, axis) =>
       element('div', '', element('span', 'caption', axes[axis]), value, element('span', 'dim', axis < 3 ? 'mm' : '°')),
@@ -187,10 +188,7 @@ export class RobotPanel {
     this.showTcp(status, at);
     for (const lamps of this.lamps) lamps.show(status);
     for (const [robot, pair] of this.toolLamps.entries())
-      for (const lamps of pair) {
-        lamps.node.hidden = robot !== id;
-        lamps.show(status);
-      }
+      for (const lamps of pair) lamps.show(status, robot === id);
     const analog = (name: string) => [0, 1].map((channel) => figure(status.number(`${name}${channel}`), 2)).join('   ');
     setText(this.analog, `Analog  in ${analog('cbox.analog_input')}   out ${analog('cbox.analog_output')}   tool ${analog(at('tool_analog_input'))}`);
     this.showBox(status);

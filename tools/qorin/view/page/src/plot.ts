@@ -41,7 +41,7 @@ const quantities: Quantity[] = [
     series: ['measured'],
     read: (status, id) => [status.speed(id)],
   },
-  perJoint('Torque', 'Nm', 'torque'),
+  perJoint('Torque', 'as the drives give it', 'torque'),
   ofAxes('Force', 'N', 'force'),
   {
     name: 'Frames',

@@ -132,9 +132,10 @@ function safetyPlane(normal: Vector3, distance: number, size: number, inForce: b
   return plane;
 }
 
-/** The speed of the TCP that counts as full, in the colours of its trace. */
+/** The speed of the TCP that counts as full, in the colours of its trace: the least limit that is in force. */
 export function fullSpeed(status: Status, id: number): number {
-  const limits = ['safety_tcp_speed', 'spec_tcp_speed'].map((name) => status.number(`robot${id}.${name}`));
+  const inForce = status.isOn(`robot${id}.safety_limits`) ? ['safety_tcp_speed', 'spec_tcp_speed'] : ['spec_tcp_speed'];
+  const limits = inForce.map((name) => status.number(`robot${id}.${name}`));
   return Math.min(...limits.filter((limit) => limit > 0), 1000);
 }
 

@@ -57,6 +57,10 @@ export class Status {
     return this.hello.duration > 0;
   }
 
+  has(name: string): boolean {
+    return this.fields.has(name);
+  }
+
   /** The channels of a field of bits. */
   bits(name: string): number {
     const field = this.fields.get(name);
