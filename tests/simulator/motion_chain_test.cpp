@@ -1,3 +1,4 @@
+#include "simulator/motion/joint_way.h"
 #include "simulator/motion/motion_chain.h"
 
 #include <cmath>
